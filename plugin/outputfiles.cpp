@@ -1,0 +1,129 @@
+#include "outputfiles.h"
+
+#include "exportjob.h"
+#include "messages.h"
+#include "pagewriter.h"
+#include "paths.h"
+#include "platform/platform.h"
+#include "pluginstate.h"
+#include "settings/viewersettings.h"
+#include "viewerparams/paramsfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace vantora::plugin {
+namespace {
+
+// Copies a user file (logo, sound) next to the page; returns its name there, empty when the
+// setting is empty. A failed copy is not reported: the file list shows what the disk holds.
+QString copyUserFile(const QString &source, const QString &folder)
+{
+    if (source.isEmpty())
+        return QString();
+    const QString name = fileNamePart(source);
+    if (platform::copyFileReplacing(source, folder + name))
+        platform::clearReadOnly(folder + name);
+    return name;
+}
+
+} // namespace
+
+std::uint64_t fileSize(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isFile() ? std::uint64_t(info.size()) : 0;
+}
+
+std::uint64_t folderSize(const QString &folder)
+{
+    std::uint64_t total = 0;
+    const QFileInfoList entries =
+        QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks);
+    for (const QFileInfo &entry : entries)
+        total += std::uint64_t(entry.size());
+    return total;
+}
+
+bool testWritable(const QString &path, QWidget *parent)
+{
+    QFile file(path);
+    const bool existed = file.exists();
+    if (file.open(QIODevice::ReadWrite)) {
+        file.close();
+        // The page is written last; an export that fails before must not leave an empty one.
+        if (!existed)
+            file.remove();
+        return true;
+    }
+    showCritical(parent, Tr::tr("Fehler"),
+                 QString::asprintf(Tr::tr("Die Datei %ls kann nicht geschrieben werden!")
+                                       .toUtf8()
+                                       .constData(),
+                                   path.utf16()));
+    return false;
+}
+
+QString viewerScriptSource(const HostContext &host)
+{
+    // The installation folder carries its own trailing separator.
+    return QString::fromUtf16(host.installFolder ? host.installFolder : u"")
+        + QStringLiteral("VantoraViewer") + nativeSeparator() + QStringLiteral("vantoViewer.js");
+}
+
+QString galleryFileName(bool extensionJs)
+{
+    return extensionJs ? QStringLiteral("vantoViewerGallery.js")
+                       : QStringLiteral("vantoViewerGallery.json");
+}
+
+int writeAllFiles(HostContext &host, const WriteRequest &request, std::uint64_t *imageDataBytes)
+{
+    settings::ViewerSettings &settings = settings::viewerSettings();
+    const ExportJob &job = exportJob();
+
+    if (host.start)
+        host.start(nullptr);
+    *imageDataBytes = 0;
+
+    const QString viewerCopy = request.viewerFolder + QStringLiteral("vantoViewer.js");
+    if (platform::copyFileReplacing(viewerScriptSource(host), viewerCopy))
+        platform::clearReadOnly(viewerCopy);
+    settings.LogoFile = copyUserFile(settings.LogoImage, request.userFolder);
+    settings.SoundFile = copyUserFile(settings.Sound, request.userFolder);
+
+    params::ParamsInput input;
+    input.host = &host;
+    input.settings = &settings;
+    input.view = view();
+    input.flatMode = host.flatImage != 0 || job.displayType != 0;
+    input.outputWidth = job.outputWidth;
+    input.outputHeight = job.outputHeight;
+    input.scalePercent = job.scale;
+    const bool written = params::writeViewerParams(input, request.viewerFolder, request.paramsFile,
+                                                   request.controlsFile,
+                                                   galleryFileName(settings.ExtensionJS))
+        != 0;
+
+    const QString base = withoutExtension(request.pageName);
+    *imageDataBytes += folderSize(request.imageFolder + base + QStringLiteral("_tiles"));
+
+    if (written) {
+        PageInput page;
+        page.nameForBase = request.pageName;
+        page.paramsFile = fileNamePart(request.paramsFile);
+        page.title = settings.Title64;
+        page.pageWidth = host.pageWidth;
+        page.pageHeight = host.pageHeight;
+        page.fitToPage = host.fitToPage != 0;
+        page.showWebGLWarning = settings.ShowWebGLWarning;
+        writePage(request.viewerFolder + request.pageName, page);
+    }
+
+    if (host.close)
+        host.close(&host);
+    return written ? 0 : 2;
+}
+
+} // namespace vantora::plugin

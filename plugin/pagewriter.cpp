@@ -1,0 +1,50 @@
+#include "pagewriter.h"
+
+#include "pagetemplates.h"
+#include "paths.h"
+
+#include <QFile>
+
+#include <cstdio>
+
+namespace vantora::plugin {
+namespace {
+
+template <typename... Args>
+QByteArray format(const char *pattern, Args... args)
+{
+    const int length = std::snprintf(nullptr, 0, pattern, args...);
+    QByteArray text(length, Qt::Uninitialized);
+    std::snprintf(text.data(), size_t(length) + 1, pattern, args...);
+    return text;
+}
+
+} // namespace
+
+QByteArray pageText(const PageInput &input)
+{
+    const QString base = withoutExtension(fileNamePart(input.nameForBase));
+    // Relative to the page, so the folder moves with it.
+    const QByteArray thumbnail =
+        (base + QStringLiteral("_tiles") + nativeSeparator() + base + QStringLiteral("_thumb.jpg"))
+            .toUtf8();
+    const QByteArray title = input.title.toUtf8();
+    const QByteArray params = input.paramsFile.toUtf8();
+    const char *options = input.showWebGLWarning ? "" : NO_WEBGL_WARNING_OPTION;
+    if (input.fitToPage)
+        return format(FULL_WINDOW_PAGE, thumbnail.constData(), title.constData(),
+                      params.constData(), options);
+    return format(FIXED_SIZE_PAGE, thumbnail.constData(), title.constData(), input.pageHeight,
+                  input.pageWidth, input.pageHeight, params.constData(), options);
+}
+
+bool writePage(const QString &pagePath, const PageInput &input)
+{
+    QFile page(pagePath);
+    if (!page.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
+        return false;
+    page.write(pageText(input));
+    return page.flush();
+}
+
+} // namespace vantora::plugin
