@@ -47,7 +47,7 @@ std::uint64_t prepareExport(HostContext &host)
     state.viewRestored = false;
 
     ExportJob &job = state.job;
-    job = ExportJob{};
+    job = ExportJob {};
     job.imageWidth = job.outputWidth = host.imageWidth;
     job.imageHeight = job.outputHeight = host.imageHeight;
 
@@ -56,12 +56,11 @@ std::uint64_t prepareExport(HostContext &host)
         && host.imageWidth == state.previousWidth && host.imageHeight == state.previousHeight;
     job.scale = sameDocument ? state.storedScale : 100;
 
-    const QString target =
-        host.nonInteractive ? fromHost(host.pathBuffer) : askForTargetPath(host);
+    const QString target = host.nonInteractive ? fromHost(host.pathBuffer) : askForTargetPath(host);
     if (!target.isEmpty()) {
         job.targetPath = target;
-        job.viewerFolder = job.userFolder = job.imageFolder =
-            withTrailingSeparator(toNativeSeparators(directoryPart(target)));
+        job.viewerFolder = job.userFolder = job.imageFolder
+            = withTrailingSeparator(toNativeSeparators(directoryPart(target)));
         job.baseName = baseNameOf(target);
         job.prepared = true;
         copyToHost(host.outputPath, target);
@@ -160,8 +159,8 @@ FileReport buildFileReport(const ReportInput &input)
         report.list += input.soundFile + sizeLine(input.soundBytes / 1024);
     report.list += Tr::tr("Bilddaten: ") + sizeLine(input.imageDataBytes / 1024);
     report.totalKb = int((input.viewerBytes + page + params + input.logoBytes + input.soundBytes
-                          + input.imageDataBytes)
-                         / 1024);
+                             + input.imageDataBytes)
+        / 1024);
     return report;
 }
 

@@ -24,8 +24,8 @@ bool askYesNo(QWidget *parent, const QString &title, const QString &text)
 {
     if (!widgetsAvailable())
         return false;
-    return QMessageBox::question(parent, title, text, QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::Yes)
+    return QMessageBox::question(
+               parent, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
         == QMessageBox::Yes;
 }
 

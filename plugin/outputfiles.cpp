@@ -39,8 +39,8 @@ std::uint64_t fileSize(const QString &path)
 std::uint64_t folderSize(const QString &folder)
 {
     std::uint64_t total = 0;
-    const QFileInfoList entries =
-        QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks);
+    const QFileInfoList entries
+        = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks);
     for (const QFileInfo &entry : entries)
         total += std::uint64_t(entry.size());
     return total;
@@ -58,10 +58,9 @@ bool testWritable(const QString &path, QWidget *parent)
         return true;
     }
     showCritical(parent, Tr::tr("Fehler"),
-                 QString::asprintf(Tr::tr("Die Datei %ls kann nicht geschrieben werden!")
-                                       .toUtf8()
-                                       .constData(),
-                                   path.utf16()));
+        QString::asprintf(
+            Tr::tr("Die Datei %ls kann nicht geschrieben werden!").toUtf8().constData(),
+            path.utf16()));
     return false;
 }
 
@@ -102,8 +101,7 @@ int writeAllFiles(HostContext &host, const WriteRequest &request, std::uint64_t 
     input.outputHeight = job.outputHeight;
     input.scalePercent = job.scale;
     const bool written = params::writeViewerParams(input, request.viewerFolder, request.paramsFile,
-                                                   request.controlsFile,
-                                                   galleryFileName(settings.ExtensionJS))
+                             request.controlsFile, galleryFileName(settings.ExtensionJS))
         != 0;
 
     const QString base = withoutExtension(request.pageName);

@@ -33,7 +33,7 @@ struct WriteRequest
     QString userFolder;
     QString imageFolder;
     QString pageName;
-    QString paramsFile;   // with the first auxiliary name already joined in front
+    QString paramsFile; // with the first auxiliary name already joined in front
     QString controlsFile;
     QString auxName2;
 };

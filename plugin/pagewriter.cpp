@@ -10,8 +10,7 @@
 namespace vantora::plugin {
 namespace {
 
-template <typename... Args>
-QByteArray format(const char *pattern, Args... args)
+template <typename... Args> QByteArray format(const char *pattern, Args... args)
 {
     const int length = std::snprintf(nullptr, 0, pattern, args...);
     QByteArray text(length, Qt::Uninitialized);
@@ -25,17 +24,17 @@ QByteArray pageText(const PageInput &input)
 {
     const QString base = withoutExtension(fileNamePart(input.nameForBase));
     // Relative to the page, so the folder moves with it.
-    const QByteArray thumbnail =
-        (base + QStringLiteral("_tiles") + nativeSeparator() + base + QStringLiteral("_thumb.jpg"))
-            .toUtf8();
+    const QByteArray thumbnail = (base + QStringLiteral("_tiles") + nativeSeparator() + base
+        + QStringLiteral("_thumb.jpg"))
+                                     .toUtf8();
     const QByteArray title = input.title.toUtf8();
     const QByteArray params = input.paramsFile.toUtf8();
     const char *options = input.showWebGLWarning ? "" : NO_WEBGL_WARNING_OPTION;
     if (input.fitToPage)
         return format(FULL_WINDOW_PAGE, thumbnail.constData(), title.constData(),
-                      params.constData(), options);
+            params.constData(), options);
     return format(FIXED_SIZE_PAGE, thumbnail.constData(), title.constData(), input.pageHeight,
-                  input.pageWidth, input.pageHeight, params.constData(), options);
+        input.pageWidth, input.pageHeight, params.constData(), options);
 }
 
 bool writePage(const QString &pagePath, const PageInput &input)

@@ -8,9 +8,9 @@ namespace vantora::plugin {
 
 struct PageInput
 {
-    QString nameForBase;  // the name B is taken from (its file name without extension)
-    QString paramsFile;   // the parameter file's name, without folder
-    QString title;        // inserted as it is, no escaping
+    QString nameForBase; // the name B is taken from (its file name without extension)
+    QString paramsFile;  // the parameter file's name, without folder
+    QString title;       // inserted as it is, no escaping
     int pageWidth = 0;
     int pageHeight = 0;
     bool fitToPage = false;

@@ -23,8 +23,8 @@ void resetPluginStateForTests()
     PluginState &s = state();
     delete[] s.settingsBlock;
     delete[] reinterpret_cast<unsigned char *>(s.viewStateBlock);
-    s = PluginState{};
-    settings::viewerSettings() = settings::ViewerSettings{};
+    s = PluginState {};
+    settings::viewerSettings() = settings::ViewerSettings {};
 }
 
 } // namespace vantora::plugin

@@ -63,9 +63,18 @@ struct PluginState
 
 PluginState &pluginState();
 
-inline HostContext *currentHost() { return pluginState().host; }
-inline View &view() { return pluginState().view; }
-inline ExportJob &exportJob() { return pluginState().job; }
+inline HostContext *currentHost()
+{
+    return pluginState().host;
+}
+inline View &view()
+{
+    return pluginState().view;
+}
+inline ExportJob &exportJob()
+{
+    return pluginState().job;
+}
 
 // Frees the blocks and puts every process-wide item, the viewer settings included, back to its
 // state at load time, so that white-box tests start each case from a freshly loaded library.

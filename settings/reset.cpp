@@ -9,14 +9,14 @@ QList<ContextMenuItem> defaultContextMenuItems()
     using K = ContextMenuItem::Kind;
     QList<ContextMenuItem> items;
     for (int kind : {K::Fullscreen, K::Separator, K::NormalView, K::LittlePlanetView, K::Separator,
-                     K::Gyroscope, K::Separator, K::About})
-        items.append(ContextMenuItem{kind, QString(), QString()});
+             K::Gyroscope, K::Separator, K::About})
+        items.append(ContextMenuItem {kind, QString(), QString()});
     return items;
 }
 
 void resetViewerSettings(ViewerSettings &settings, bool hostGyroCapable)
 {
-    settings = ViewerSettings{};
+    settings = ViewerSettings {};
     settings.ContextMenuItems = defaultContextMenuItems();
     settings.AddGyro = hostGyroCapable;
     settings.GyroButton = hostGyroCapable;

@@ -1,8 +1,8 @@
 // Windows twin of the platform layer: the kernel's and the shell's own calls.
 #include "platform.h"
 
-#include <windows.h>
 #include <shellapi.h>
+#include <windows.h>
 
 namespace vantora::platform {
 namespace {

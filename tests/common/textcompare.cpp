@@ -25,7 +25,8 @@ QString describeTextDifference(const QString &actual, const QString &expected)
     while (at < actual.size() && at < expected.size() && actual.at(at) == expected.at(at))
         ++at;
     const int from = qMax(0, at - 40);
-    return QStringLiteral("texts differ at position %1 (lengths %2 and %3)\n   actual: %4\n expected: %5")
+    return QStringLiteral(
+        "texts differ at position %1 (lengths %2 and %3)\n   actual: %4\n expected: %5")
         .arg(at)
         .arg(actual.size())
         .arg(expected.size())

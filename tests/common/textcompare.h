@@ -18,8 +18,7 @@ QByteArray readFileBytes(const QString &path);
 // QCOMPARE for exact texts: on a mismatch it reports the first differing position readably.
 #define VANTORA_COMPARE_TEXT(actual, expected)                                                     \
     do {                                                                                           \
-        const QString vantoraDiff_ =                                                               \
-            vantora::test::describeTextDifference((actual), (expected));                           \
+        const QString vantoraDiff_ = vantora::test::describeTextDifference((actual), (expected));  \
         if (!vantoraDiff_.isEmpty())                                                               \
             QFAIL(qPrintable(vantoraDiff_));                                                       \
     } while (false)

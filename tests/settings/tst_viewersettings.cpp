@@ -28,7 +28,7 @@ private slots:
         QFETCH(bool, withHost);
         QFETCH(quint32, capability);
         QFETCH(bool, expected);
-        HostContext host{};
+        HostContext host {};
         host.gyroCapable = capability;
         vantora::plugin::pluginState().host = withHost ? &host : nullptr;
         vantora::settings::resetViewerSettings();
@@ -52,7 +52,8 @@ private slots:
         s.PanRate = -4.5;
         s.MapZoom = 3;
         s.ShowToolbar = false;
-        s.ContextMenuItems.append({ContextMenuItem::Custom, QStringLiteral("x"), QStringLiteral("y")});
+        s.ContextMenuItems.append(
+            {ContextMenuItem::Custom, QStringLiteral("x"), QStringLiteral("y")});
         vantora::settings::resetViewerSettings(s, false);
 
         QCOMPARE(s.TBDesign, 0);
@@ -82,7 +83,7 @@ private slots:
     {
         ViewerSettings s;
         vantora::settings::resetViewerSettings(s, true);
-        const QList<int> expectedKinds{1, 0, 2, 3, 0, 4, 0, 5};
+        const QList<int> expectedKinds {1, 0, 2, 3, 0, 4, 0, 5};
         QCOMPARE(s.ContextMenuItems.size(), expectedKinds.size());
         for (int i = 0; i < expectedKinds.size(); ++i) {
             QCOMPARE(s.ContextMenuItems.at(i).kind, expectedKinds.at(i));

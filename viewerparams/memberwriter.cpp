@@ -1,0 +1,81 @@
+#include "memberwriter.h"
+
+#include "plugin/paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QTextStream>
+
+namespace vantora::params {
+namespace {
+
+const QString NODE_KEY = QStringLiteral("node");
+const QString IMAGE_KEY = QStringLiteral("image");
+
+// One member as the serialiser writes it inside a one-member object, without the braces.
+QString memberText(const QString &key, const QJsonValue &value)
+{
+    QJsonObject single;
+    single.insert(key, value);
+    // "image" describes every tile level; on one line it keeps the file readable.
+    const QJsonDocument::JsonFormat format
+        = key == IMAGE_KEY ? QJsonDocument::Compact : QJsonDocument::Indented;
+    const QString text = QString::fromUtf8(QJsonDocument(single).toJson(format));
+    const int open = text.indexOf(QLatin1Char('{'));
+    const int close = text.lastIndexOf(QLatin1Char('}'));
+    const int from = open < 0 ? 0 : open + 1;
+    const int to = close < from ? text.size() : close;
+    return text.mid(from, to - from).trimmed();
+}
+
+} // namespace
+
+void writeMembers(
+    QTextStream &stream, const QStringList &keys, const QJsonObject &object, bool nested)
+{
+    for (int i = 0; i < keys.size(); ++i) {
+        const QString &key = keys.at(i);
+        const bool last = i == keys.size() - 1;
+        if (key == NODE_KEY) {
+            const QJsonObject node = object.value(key).toObject();
+            stream << "\"node\": {\n";
+            writeMembers(stream, node.keys(), node, true);
+            stream << (last ? "}\n" : "},\n");
+            continue;
+        }
+        QString text = memberText(key, object.value(key));
+        if (nested) {
+            text.replace(QLatin1Char('\n'), QLatin1String("\n\t"));
+            text.prepend(QLatin1Char('\t'));
+        }
+        stream << text << (last ? "\n" : ",\n");
+    }
+}
+
+QStringList rootKeyOrder(const QJsonObject &root)
+{
+    QStringList keys = root.keys();
+    if (keys.removeOne(IMAGE_KEY))
+        keys.append(IMAGE_KEY);
+    return keys;
+}
+
+bool writeViewerParamsFile(const QString &path, const QJsonObject &root)
+{
+    const QString folder = plugin::directoryPart(plugin::toNativeSeparators(path));
+    QDir().mkpath(folder);
+    QFile file(plugin::toNativeSeparators(path));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
+        return false;
+    QTextStream stream(&file);
+    stream.setCodec("UTF-8");
+    stream << "VantoraViewerParams = {\n\"vantoraViewer\": {\n";
+    writeMembers(stream, rootKeyOrder(root), root, false);
+    stream << "}\n}";
+    // A full disk shows only here; the export must not report a truncated file as written.
+    stream.flush();
+    return stream.status() == QTextStream::Ok && file.flush();
+}
+
+} // namespace vantora::params
