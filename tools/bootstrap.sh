@@ -6,7 +6,7 @@ set -euo pipefail
 PACKAGES=(
   build-essential cmake ninja-build pkg-config
   qtbase5-dev qtbase5-dev-tools libqt5svg5-dev
-  nodejs binutils
+  nodejs binutils g++-mingw-w64-x86-64-posix
   libgl1-mesa-dev fonts-dejavu-core
 )
 

@@ -1,8 +1,10 @@
 // Windows twin of the platform layer: the kernel's and the shell's own calls.
 #include "platform.h"
 
-#include <shellapi.h>
+// windows.h first: shellapi.h builds on its types, so the two stay in separate blocks.
 #include <windows.h>
+
+#include <shellapi.h>
 
 namespace vantora::platform {
 namespace {
