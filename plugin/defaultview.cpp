@@ -5,17 +5,25 @@
 
 namespace vantora::plugin {
 
+View storedView(const HostContext &host)
+{
+    return View {host.viewPan, host.viewTilt, host.viewHfov, host.viewMinHfov, host.viewMaxHfov};
+}
+
+void storeView(HostContext &host, const View &view)
+{
+    host.viewPan = view.pan;
+    host.viewTilt = view.tilt;
+    host.viewHfov = view.hfov;
+    host.viewMinHfov = view.minhfov;
+    host.viewMaxHfov = view.maxhfov;
+}
+
 View defaultViewFromHost(const HostContext &host)
 {
+    if (host.viewHfov > 0.0)
+        return storedView(host);
     View view;
-    if (host.viewHfov > 0.0) {
-        view.pan = host.viewPan;
-        view.tilt = host.viewTilt;
-        view.hfov = host.viewHfov;
-        view.minhfov = host.viewMinHfov;
-        view.maxhfov = host.viewMaxHfov;
-        return view;
-    }
     // No stored view: show 90 % of what fits a 5:3 window, never wider than 90 degrees, looking
     // at the middle of the horizontal extent.
     const double horizontal = std::fabs(host.endPan - host.startPan);

@@ -110,12 +110,7 @@ std::uint64_t writeExport(HostContext &host)
 
     copyToHost(host.outputPath, pagePath);
     copyToHost(host.pathBuffer, pagePath);
-    const View &current = view();
-    host.viewPan = current.pan;
-    host.viewTilt = current.tilt;
-    host.viewHfov = current.hfov;
-    host.viewMinHfov = current.minhfov;
-    host.viewMaxHfov = current.maxhfov;
+    storeView(host, view());
 
     ReportInput sizes;
     sizes.pageName = names.page;
