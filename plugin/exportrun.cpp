@@ -5,7 +5,6 @@
 #include "hostaccess.h"
 #include "messages.h"
 #include "outputfiles.h"
-#include "paths.h"
 #include "platform/platform.h"
 #include "pluginstate.h"
 #include "settings/viewersettings.h"
@@ -59,8 +58,7 @@ std::uint64_t prepareExport(HostContext &host)
     const QString target = host.nonInteractive ? fromHost(host.pathBuffer) : askForTargetPath(host);
     if (!target.isEmpty()) {
         job.targetPath = target;
-        job.viewerFolder = job.userFolder = job.imageFolder
-            = withTrailingSeparator(toNativeSeparators(directoryPart(target)));
+        job.viewerFolder = job.userFolder = job.imageFolder = outputFolderOf(target);
         job.baseName = baseNameOf(target);
         job.prepared = true;
         copyToHost(host.outputPath, target);

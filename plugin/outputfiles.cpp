@@ -1,6 +1,7 @@
 #include "outputfiles.h"
 
 #include "exportjob.h"
+#include "hostaccess.h"
 #include "messages.h"
 #include "pagewriter.h"
 #include "paths.h"
@@ -67,8 +68,8 @@ bool testWritable(const QString &path, QWidget *parent)
 QString viewerScriptSource(const HostContext &host)
 {
     // The installation folder carries its own trailing separator.
-    return QString::fromUtf16(host.installFolder ? host.installFolder : u"")
-        + QStringLiteral("VantoraViewer") + nativeSeparator() + QStringLiteral("vantoViewer.js");
+    return fromHost(host.installFolder) + QStringLiteral("VantoraViewer") + nativeSeparator()
+        + QStringLiteral("vantoViewer.js");
 }
 
 QString galleryFileName(bool extensionJs)

@@ -41,7 +41,6 @@ struct ExportJob
     QString baseName;
     QString auxName1; // joined in front of the parameter file name
     QString auxName2; // handed to the file writing as it is
-    std::uint32_t tileCount = 0;
     std::uint64_t imageDataBytes = 0;
     std::uint32_t formatFlags = 0;
 };
