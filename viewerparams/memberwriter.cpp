@@ -14,13 +14,12 @@ const QString NODE_KEY = QStringLiteral("node");
 const QString IMAGE_KEY = QStringLiteral("image");
 
 // One member as the serialiser writes it inside a one-member object, without the braces.
-QString memberText(const QString &key, const QJsonValue &value)
+QString memberText(const QString &key, const QJsonValue &value, bool compact)
 {
     QJsonObject single;
     single.insert(key, value);
-    // "image" describes every tile level; on one line it keeps the file readable.
     const QJsonDocument::JsonFormat format
-        = key == IMAGE_KEY ? QJsonDocument::Compact : QJsonDocument::Indented;
+        = compact ? QJsonDocument::Compact : QJsonDocument::Indented;
     const QString text = QString::fromUtf8(QJsonDocument(single).toJson(format));
     const int open = text.indexOf(QLatin1Char('{'));
     const int close = text.lastIndexOf(QLatin1Char('}'));
@@ -31,20 +30,22 @@ QString memberText(const QString &key, const QJsonValue &value)
 
 } // namespace
 
-void writeMembers(
-    QTextStream &stream, const QStringList &keys, const QJsonObject &object, bool nested)
+void writeMembers(QTextStream &stream, const QStringList &keys, const QJsonObject &object,
+    bool nested, Layout layout)
 {
+    const bool parameterFile = layout == Layout::ParameterFile;
     for (int i = 0; i < keys.size(); ++i) {
         const QString &key = keys.at(i);
         const bool last = i == keys.size() - 1;
-        if (key == NODE_KEY) {
+        if (parameterFile && key == NODE_KEY) {
             const QJsonObject node = object.value(key).toObject();
             stream << "\"node\": {\n";
             writeMembers(stream, node.keys(), node, true);
             stream << (last ? "}\n" : "},\n");
             continue;
         }
-        QString text = memberText(key, object.value(key));
+        // "image" describes every tile level; on one line it keeps the file readable.
+        QString text = memberText(key, object.value(key), parameterFile && key == IMAGE_KEY);
         if (nested) {
             text.replace(QLatin1Char('\n'), QLatin1String("\n\t"));
             text.prepend(QLatin1Char('\t'));
@@ -61,7 +62,7 @@ QStringList rootKeyOrder(const QJsonObject &root)
     return keys;
 }
 
-bool writeViewerParamsFile(const QString &path, const QJsonObject &root)
+bool writeViewerParamsFile(const QString &path, const QJsonObject &root, Layout layout)
 {
     const QString folder = plugin::directoryPart(plugin::toNativeSeparators(path));
     QDir().mkpath(folder);
@@ -71,7 +72,8 @@ bool writeViewerParamsFile(const QString &path, const QJsonObject &root)
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
     stream << "VantoraViewerParams = {\n\"vantoraViewer\": {\n";
-    writeMembers(stream, rootKeyOrder(root), root, false);
+    const QStringList keys = layout == Layout::ParameterFile ? rootKeyOrder(root) : root.keys();
+    writeMembers(stream, keys, root, false, layout);
     stream << "}\n}";
     // A full disk shows only here; the export must not report a truncated file as written.
     stream.flush();

@@ -1,5 +1,6 @@
 #include "paramsfile.h"
 
+#include "controlsfile.h"
 #include "hotspots.h"
 #include "infobox.h"
 #include "jsonbridge.h"
@@ -293,10 +294,16 @@ ParamsDocument buildViewerParams(const ParamsInput &input, const QString &output
         node.insert(QStringLiteral("location"), locationObject(host, settings));
 
     root.insert(QStringLiteral("node"), node);
-    // The controls file is named here; its writer (events, toolbar, menu) fills it separately.
-    QJsonObject controlsInclude;
-    controlsInclude.insert(QStringLiteral("src"), controlsFileName);
-    root.insert(QStringLiteral("include"), QJsonArray {controlsInclude});
+
+    ControlsInput controls;
+    controls.host = &host;
+    controls.settings = input.settings;
+    controls.view = input.view;
+    controls.flatMode = input.flatMode;
+    controls.vrAvailable = vr;
+    QJsonArray actions;
+    root.insert(QStringLiteral("include"),
+        QJsonArray {writeControlsFile(outputFolder, controlsFileName, controls, actions)});
     return document;
 }
 

@@ -18,7 +18,8 @@ namespace vantora::params {
 struct ParamsInput
 {
     HostContext *host = nullptr; // never null when building
-    const settings::ViewerSettings *settings = nullptr;
+    // The controls file stores the clamped toolbar design back into it.
+    settings::ViewerSettings *settings = nullptr;
     plugin::View view;
     bool flatMode = false;         // host's flat-image mark or the flat display type
     std::uint32_t outputWidth = 0; // ExportJob output size, for the tile writer and tilt rule

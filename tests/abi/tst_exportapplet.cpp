@@ -433,11 +433,11 @@ void tst_ExportApplet::outputNames()
     QCOMPARE(m_host->outputText(), pagePath);
     QCOMPARE(m_host->pathText(), pagePath);
     QCOMPARE(g_log.identifier, base);
-    const QStringList expected = {
-        page, params, base + "_tiles/", base + "_tiles/" + base + "_thumb.jpg", "vantoViewer.js"};
-    QStringList written = entriesBelow(m_out);
-    written.removeOne(base + "_controls.json"); // not this test's concern: only its name is
-    QCOMPARE(written, expected);
+    // The controls file lies next to the parameter file, named after the page.
+    const QStringList expected = {page, params, base + "_controls.json", base + "_tiles/",
+        base + "_tiles/" + base + "_thumb.jpg", "vantoViewer.js"};
+    QCOMPARE(entriesBelow(m_out), expected);
+    QVERIFY(readText(m_out + base + "_controls.json").startsWith(PARAMS_OPENING));
     const QJsonObject root = viewerRoot(m_out + params);
     QCOMPARE(root.value("node").toObject().value("id").toString(), base);
     QCOMPARE(root.value("include").toArray().at(0).toObject(),
@@ -639,10 +639,10 @@ void tst_ExportApplet::hotspots()
     QCOMPARE(spots[2].toObject().value("bitmap").toString(), "pap_pin.png"_q);
     QVERIFY(!spots[2].toObject().contains("href"));
 
-    // The parameter file runs in a script engine, its function texts included.
+    // Both files run in a script engine, their function texts included.
     QProcess node;
     node.setProcessChannelMode(QProcess::MergedChannels);
-    node.start(VANTORA_NODE, {VANTORA_CHECKJS, m_out + "tour.json"});
+    node.start(VANTORA_NODE, {VANTORA_CHECKJS, m_out + "tour.json", m_out + "tour_controls.json"});
     QVERIFY2(node.waitForFinished(60000), qPrintable(node.errorString()));
     QVERIFY2(node.exitStatus() == QProcess::NormalExit && node.exitCode() == 0,
         node.readAll().constData());

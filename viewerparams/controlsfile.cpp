@@ -1,0 +1,70 @@
+#include "controlsfile.h"
+
+#include "contextmenu.h"
+#include "memberwriter.h"
+
+namespace vantora::params {
+namespace {
+
+// The include has always carried the controls name as the printf formatter prints it without
+// arguments: "%%" comes out as "%". Any other conversion has no argument to print, so it is
+// kept as it stands instead of printing garbage.
+QString formattedWithoutArguments(const QString &text)
+{
+    QString result = text;
+    result.replace(QLatin1String("%%"), QLatin1String("%"));
+    return result;
+}
+
+} // namespace
+
+int clampedDesign(int design)
+{
+    return qBound(0, design, 7);
+}
+
+EventFlags controlsFlags(settings::ViewerSettings &settings, bool flatMode, bool vrAvailable)
+{
+    settings.TBDesign = clampedDesign(settings.TBDesign);
+    EventFlags flags;
+    flags.design = settings.TBDesign;
+    flags.gyroSupport = settings.AddGyro && !flatMode;
+    flags.gyroOnAtStart = settings.GyroEnabled && !flatMode;
+    flags.littlePlanetIntro = settings.LittlePlanetIntro;
+    flags.vr = settings.AddVrMode && vrAvailable;
+    return flags;
+}
+
+QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions)
+{
+    settings::ViewerSettings &settings = *input.settings;
+    const EventFlags flags = controlsFlags(settings, input.flatMode, input.vrAvailable);
+
+    QJsonObject root;
+    QJsonObject captionsDe;
+    buildMainEvents(root, actions, flags, input.view);
+
+    // The toolbar ("buttonBox" and the free-standing "button" array) and the orientation element
+    // ("orientation") join here: their actions follow the intro's and precede the message actions,
+    // and their captions go into captionsDe.
+
+    appendMessageActions(actions);
+    // The menu's own actions come last: the handlers above never call them.
+    if (!settings.ContextMenuItems.isEmpty())
+        buildContextMenu(root, actions, captionsDe, settings.ContextMenuItems, flags.gyroSupport);
+
+    root.insert(QStringLiteral("actions"), actions);
+    if (!captionsDe.isEmpty())
+        root.insert(QStringLiteral("translate"), QJsonObject {{QStringLiteral("de"), captionsDe}});
+    return root;
+}
+
+QJsonObject writeControlsFile(const QString &outputFolder, const QString &controlsFileName,
+    const ControlsInput &input, QJsonArray &actions)
+{
+    const QJsonObject root = buildControls(input, actions);
+    writeViewerParamsFile(outputFolder + controlsFileName, root, Layout::Plain);
+    return QJsonObject {{QStringLiteral("src"), formattedWithoutArguments(controlsFileName)}};
+}
+
+} // namespace vantora::params

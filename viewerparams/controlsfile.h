@@ -1,0 +1,43 @@
+// The controls file: events, actions, toolbar, orientation element and context menu of the viewer.
+#pragma once
+
+#include "events.h"
+#include "plugin/pluginstate.h"
+#include "settings/viewersettings.h"
+
+#include <vantora/host.h>
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+
+namespace vantora::params {
+
+// What the controls file is built from; the parameter-file writer fills it.
+struct ControlsInput
+{
+    HostContext *host = nullptr;
+    // Written to as well: the toolbar design is clamped and stored back, so that every later
+    // reader of the settings sees the design that was actually exported.
+    settings::ViewerSettings *settings = nullptr;
+    plugin::View view;
+    bool flatMode = false;
+    bool vrAvailable = false; // spherical and a full sphere
+};
+
+// TBDesign clamped into 0..7.
+int clampedDesign(int design);
+
+// The flags that select handlers and gates. Clamps TBDesign and stores it back into `settings`.
+EventFlags controlsFlags(settings::ViewerSettings &settings, bool flatMode, bool vrAvailable);
+
+// The controls root. `actions` comes in empty and leaves as stored under "actions".
+QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions);
+
+// Builds the controls root and writes it to outputFolder + controlsFileName in the parameter
+// file's framing. Returns the include object {"src": controlsFileName, "%%" printed as "%"} even
+// when the file cannot be written, as the parameter file names it either way.
+QJsonObject writeControlsFile(const QString &outputFolder, const QString &controlsFileName,
+    const ControlsInput &input, QJsonArray &actions);
+
+} // namespace vantora::params
