@@ -3,6 +3,7 @@
 #include "defaultview.h"
 #include "exportrun.h"
 #include "pluginstate.h"
+#include "settings/settingsblock.h"
 
 #include <cstring>
 
@@ -78,8 +79,7 @@ void runCommand(std::uint32_t command, HostContext *host, std::uint64_t *inout)
         result = host ? writeExport(*host) : std::uint64_t(VANTORA_WRITE_DONE);
         break;
     case VANTORA_SAVE_SETTINGS:
-        // The settings block is not serialised yet: the host receives no block to keep.
-        result = 0;
+        result = reinterpret_cast<std::uintptr_t>(settings::serializeViewerSettings());
         break;
     case VANTORA_FREE_SETTINGS:
         freeSettingsBlock();
@@ -91,8 +91,9 @@ void runCommand(std::uint32_t command, HostContext *host, std::uint64_t *inout)
         freeViewStateBlock();
         break;
     case VANTORA_RESTORE_SETTINGS:
-        // Restoring from a settings block is not implemented yet: the defaults stay and
-        // settingsRestored stays clear, so the next export resets as if no block came.
+        if (inout)
+            settings::restoreViewerSettings(
+                reinterpret_cast<const unsigned char *>(std::uintptr_t(*inout)));
         break;
     case VANTORA_RESTORE_VIEW:
         if (inout && host)

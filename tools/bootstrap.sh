@@ -7,6 +7,7 @@ PACKAGES=(
   build-essential cmake ninja-build pkg-config
   qtbase5-dev qtbase5-dev-tools libqt5svg5-dev
   nodejs binutils g++-mingw-w64-x86-64-posix
+  clang libclang-rt-14-dev
   libgl1-mesa-dev fonts-dejavu-core
 )
 

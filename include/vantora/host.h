@@ -237,7 +237,16 @@ typedef struct ViewState {
 
 /* ---- The entry point ------------------------------------------------------------------------- */
 
-/* Commands of export_applet. Results travel through *inout; the return value is always 0. */
+/* Commands of export_applet. Results travel through *inout; the return value is always 0.
+ *
+ * The settings block of commands 2, 3 and 6 is the library's own format (little-endian: u32 total
+ * size, i32 version, then the settings); the host keeps its bytes unchanged with its document and
+ * hands them back by address in command 6. Command 2 allocates a new block every time and does not
+ * free the one it gave before; command 3 frees the latest. Command 6 reads nothing beyond the
+ * block's own total size: a block shorter than its version needs, or one whose size word or inner
+ * lengths do not fit together, is ignored like a block of an unknown version (the settings keep
+ * their defaults and the next command 0 starts from them). Only the first four bytes, the size
+ * word itself, are read before it is known. */
 enum VantoraCommand {
     VANTORA_PREPARE = 0,         /* *inout = 0 */
     VANTORA_WRITE = 1,           /* *inout = VantoraWriteResult */

@@ -1,6 +1,8 @@
 // Portable twin of the platform layer, built everywhere but Windows.
 #include "platform.h"
 
+#include "settings/inifile.h"
+
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
@@ -38,6 +40,23 @@ void clearReadOnly(const QString &path)
 void openWithDefaultHandler(const QString &path)
 {
     QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+QString profileString(
+    const QString &path, const QString &section, const QString &key, const QString &defaultText)
+{
+    return settings::ini::readString(path, section, key, defaultText);
+}
+
+int profileInt(const QString &path, const QString &section, const QString &key, int defaultValue)
+{
+    return settings::ini::readInt(path, section, key, defaultValue);
+}
+
+bool writeProfileString(
+    const QString &path, const QString &section, const QString &key, const QString &value)
+{
+    return settings::ini::writeString(path, section, key, value);
 }
 
 } // namespace vantora::platform

@@ -6,6 +6,8 @@
 
 #include <shellapi.h>
 
+#include <vector>
+
 namespace vantora::platform {
 namespace {
 
@@ -31,6 +33,27 @@ void clearReadOnly(const QString &path)
 void openWithDefaultHandler(const QString &path)
 {
     ShellExecuteW(nullptr, L"open", wide(path), nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+QString profileString(
+    const QString &path, const QString &section, const QString &key, const QString &defaultText)
+{
+    // The product's buffer of 65,536 wide characters.
+    std::vector<wchar_t> buffer(65536);
+    const DWORD length = GetPrivateProfileStringW(wide(section), wide(key), wide(defaultText),
+        buffer.data(), DWORD(buffer.size()), wide(path));
+    return QString::fromUtf16(reinterpret_cast<const char16_t *>(buffer.data()), int(length));
+}
+
+int profileInt(const QString &path, const QString &section, const QString &key, int defaultValue)
+{
+    return int(GetPrivateProfileIntW(wide(section), wide(key), defaultValue, wide(path)));
+}
+
+bool writeProfileString(
+    const QString &path, const QString &section, const QString &key, const QString &value)
+{
+    return WritePrivateProfileStringW(wide(section), wide(key), wide(value), wide(path)) != 0;
 }
 
 } // namespace vantora::platform

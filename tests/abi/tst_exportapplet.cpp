@@ -3,6 +3,8 @@
 // the tile writer's request and hotspots.
 #include "common/hostbuilder.h"
 #include "common/textcompare.h"
+#include "settings/settingsblock.h"
+#include "settings/viewersettingsfields.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -248,6 +250,7 @@ private slots:
     void restoreView_data() { addRows(RESTORE_ROWS); }
     void restoreView();
     void blockCommands();
+    void settingsBlock();
     void paramsFile();
     void tileRequest_data() { addRows(TILE_ROWS); }
     void tileRequest();
@@ -535,6 +538,37 @@ void tst_ExportApplet::blockCommands()
     QCOMPARE(call(0xFFFFFFFF), 0ull);
     QCOMPARE(g_log.starts, 0);
     QCOMPARE(entriesBelow(m_out), QStringList());
+}
+
+// A hand-built block of the current version, restored before command 0, shapes the export; the
+// block of command 2 restores to the same settings; without a new block the next export starts
+// from the defaults.
+void tst_ExportApplet::settingsBlock()
+{
+    using namespace vantora::settings;
+    const QByteArray block = readFileBytes(VANTORA_TEST_DATA "/blocks/markers_v12.bin");
+    QVERIFY(block.size() > 133);
+    call(6, quint64(std::uintptr_t(block.constData())));
+    m_host->setPath(m_out + "tour.html");
+    QCOMPARE(call(0), 0ull);
+
+    const auto *saved = reinterpret_cast<const unsigned char *>(std::uintptr_t(call(2, 0)));
+    QVERIFY(saved);
+    ViewerSettings given, returned;
+    resetViewerSettings(given, false);
+    resetViewerSettings(returned, false);
+    QVERIFY(decodeSettingsBlock(reinterpret_cast<const unsigned char *>(block.constData()), given));
+    QVERIFY(decodeSettingsBlock(saved, returned));
+    QCOMPARE(differingFields(returned, given), QList<const char *>());
+    QCOMPARE(call(3), SENTINEL);
+
+    QCOMPARE(call(1), 0ull);
+    QVERIFY(QFileInfo::exists(m_out + "tour.js"));
+    QVERIFY(!QFileInfo::exists(m_out + "tour.json"));
+    QVERIFY(readText(m_out + "tour.html").contains("<title>Gipfel über Zürich</title>"));
+
+    QCOMPARE(exportTo(m_out + "again.html"), 0ull);
+    QVERIFY(QFileInfo::exists(m_out + "again.json"));
 }
 
 void tst_ExportApplet::paramsFile()

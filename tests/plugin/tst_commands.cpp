@@ -2,6 +2,7 @@
 #include "plugin/commands.h"
 #include "plugin/defaultview.h"
 #include "plugin/pluginstate.h"
+#include "settings/settingsblock.h"
 #include "settings/viewersettings.h"
 
 #include <QtTest>
@@ -38,6 +39,60 @@ private slots:
         QCOMPARE(vantora::settings::viewerSettings().TBDesign, 0);
         QVERIFY(vantora::settings::viewerSettings().AddGyro);
         QCOMPARE(vantora::settings::viewerSettings().ContextMenuItems.size(), 8);
+    }
+
+    // Command 6 restores before command 0, which keeps the settings and clears the flag; command
+    // 2 hands out a block of them and keeps it, command 3 frees it and leaves the word alone.
+    void settingsBlockCommands()
+    {
+        using namespace vantora::settings;
+        HostContext host {};
+        ViewerSettings custom;
+        resetViewerSettings(custom, false);
+        custom.TBDesign = 6;
+        custom.Title64 = QStringLiteral("Süd");
+        const QByteArray given = encodeSettingsBlock(custom);
+        run(VANTORA_RESTORE_SETTINGS, host, std::uintptr_t(given.constData()));
+        QVERIFY(pluginState().settingsRestored);
+        run(VANTORA_PREPARE, host);
+        QVERIFY(!pluginState().settingsRestored);
+        QCOMPARE(viewerSettings().TBDesign, 6);
+
+        const std::uint64_t address = run(VANTORA_SAVE_SETTINGS, host);
+        QCOMPARE(address, std::uint64_t(std::uintptr_t(pluginState().settingsBlock)));
+        const auto *block = reinterpret_cast<const char *>(std::uintptr_t(address));
+        QCOMPARE(QByteArray(block, given.size()), given);
+        QCOMPARE(run(VANTORA_FREE_SETTINGS, host, 5), 5u);
+        QVERIFY(!pluginState().settingsBlock);
+
+        // The next export without a restore starts from the defaults.
+        run(VANTORA_PREPARE, host);
+        QCOMPARE(viewerSettings().TBDesign, 0);
+    }
+
+    void unusableRestoreLeavesTheDefaults_data()
+    {
+        QTest::addColumn<bool>("wordPointer");
+        QTest::addColumn<int>("version");
+        QTest::addColumn<int>("expectedDesign");
+        QTest::addRow("no in/out word: nothing happens") << false << 12 << 4;
+        QTest::addRow("null block") << true << -2 << 0;
+        QTest::addRow("version 13") << true << 13 << 0;
+    }
+    void unusableRestoreLeavesTheDefaults()
+    {
+        QFETCH(bool, wordPointer);
+        QFETCH(int, version);
+        QFETCH(int, expectedDesign);
+        HostContext host {};
+        vantora::settings::viewerSettings().TBDesign = 4;
+        QByteArray block
+            = vantora::settings::encodeSettingsBlock(vantora::settings::viewerSettings());
+        qToLittleEndian(qint32(version), block.data() + 4);
+        std::uint64_t word = version == -2 ? 0 : std::uintptr_t(block.constData());
+        runCommand(VANTORA_RESTORE_SETTINGS, &host, wordPointer ? &word : nullptr);
+        QVERIFY(!pluginState().settingsRestored);
+        QCOMPARE(vantora::settings::viewerSettings().TBDesign, expectedDesign);
     }
 
     void scaleIsKeptForTheSameDocumentOnly_data()

@@ -1,0 +1,25 @@
+# The fuzz tests of the main project: build the clang project beside the main build, then run
+# each target for a bounded time (label fuzz). VANTORA_FUZZ_SECONDS sets the time per target.
+find_program(VANTORA_CLANGXX NAMES clang++ clang++-14)
+set(VANTORA_FUZZ_SECONDS 25 CACHE STRING "Seconds each fuzz target runs in the test suite")
+set(fuzz_source ${CMAKE_CURRENT_LIST_DIR})
+set(fuzz_build ${CMAKE_BINARY_DIR}/fuzz)
+
+add_test(NAME fuzz_build
+  COMMAND ${CMAKE_COMMAND} -DMODE=build -DSOURCE=${fuzz_source} -DBUILD=${fuzz_build}
+          -DCXX=${VANTORA_CLANGXX} -P ${fuzz_source}/runfuzzer.cmake)
+set_tests_properties(fuzz_build PROPERTIES LABELS fuzz FIXTURES_SETUP fuzzers)
+
+foreach(target settingsblock inifile)
+  if(target STREQUAL "settingsblock")
+    set(seeds ${PROJECT_SOURCE_DIR}/tests/data/blocks)
+  else()
+    set(seeds ${PROJECT_SOURCE_DIR}/tests/data/ini)
+  endif()
+  add_test(NAME fuzz_${target}
+    COMMAND ${CMAKE_COMMAND} -DMODE=run -DFUZZER=${fuzz_build}/fuzz_${target}
+            -DCORPUS=${fuzz_build}/corpus_${target} -DSEEDS=${seeds}
+            -DSECONDS=${VANTORA_FUZZ_SECONDS} -P ${fuzz_source}/runfuzzer.cmake)
+  set_tests_properties(fuzz_${target} PROPERTIES LABELS fuzz FIXTURES_REQUIRED fuzzers
+    ENVIRONMENT "UBSAN_OPTIONS=print_stacktrace=1;ASAN_OPTIONS=detect_leaks=1")
+endforeach()
