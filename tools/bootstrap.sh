@@ -8,6 +8,7 @@ PACKAGES=(
   qtbase5-dev qtbase5-dev-tools libqt5svg5-dev
   nodejs binutils g++-mingw-w64-x86-64-posix
   libgl1-mesa-dev fonts-dejavu-core
+  libvips-dev libvips-tools
 )
 
 missing=()
