@@ -9,6 +9,7 @@ PACKAGES=(
   nodejs binutils g++-mingw-w64-x86-64-posix
   clang libclang-rt-14-dev
   libgl1-mesa-dev fonts-dejavu-core
+  libvips-dev libvips-tools
 )
 
 missing=()

@@ -1,0 +1,163 @@
+#include "options.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace vantora::cli {
+namespace {
+
+std::optional<double> number(const QString &text)
+{
+    bool ok = false;
+    const double value = text.trimmed().toDouble(&ok);
+    return ok ? std::optional<double>(value) : std::nullopt;
+}
+
+bool parseExtent(const QString &text, double high, std::optional<double> *extent)
+{
+    const auto value = number(text);
+    if (!value || !(*value > 0.0) || *value > high)
+        return false;
+    *extent = value;
+    return true;
+}
+
+bool parseLocation(const QString &text, Location *location)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    if (parts.size() != 2 && parts.size() != 3)
+        return false;
+    const auto latitude = number(parts[0]);
+    const auto longitude = number(parts[1]);
+    if (!latitude || !longitude || *latitude < -90 || *latitude > 90 || *longitude < -180
+        || *longitude > 180)
+        return false;
+    location->hasPosition = true;
+    location->latitude = *latitude;
+    location->longitude = *longitude;
+    if (parts.size() == 3) {
+        const auto north = number(parts[2]);
+        if (!north || *north < 0 || *north >= 360)
+            return false;
+        location->north = north;
+    }
+    return true;
+}
+
+} // namespace
+
+ParseResult parseOptions(const QStringList &arguments, const QString &defaultLibrary,
+    const QString &defaultInstall, CliOptions *options, QString *message)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Exports pictures as interactive web pages through the Vantora web export library.\n"
+        "Without IMAGE it exports the embedded sample panorama. With several images it writes a\n"
+        "tour into one folder: the first page is OUT.html, every further page is named after its\n"
+        "image."));
+    parser.addPositionalArgument(QStringLiteral("IMAGE"),
+        QStringLiteral("Pictures to export (JPEG, PNG, TIFF, ...)."),
+        QStringLiteral("[IMAGE ...]"));
+    const QCommandLineOption help(
+        {QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
+    const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
+        QStringLiteral("The page to write (required)."), QStringLiteral("OUT.html"));
+    const QCommandLineOption flat(
+        QStringLiteral("flat"), QStringLiteral("Export flat 2D zoom images instead of panoramas."));
+    const QCommandLineOption hextent(QStringLiteral("hextent"),
+        QStringLiteral("Horizontal extent of a partial panorama in degrees, up to 360 (default: "
+                       "from the aspect ratio)."),
+        QStringLiteral("DEGREES"));
+    const QCommandLineOption vextent(QStringLiteral("vextent"),
+        QStringLiteral("Vertical extent in degrees, up to 180, centred on the horizon (default: "
+                       "from the aspect ratio)."),
+        QStringLiteral("DEGREES"));
+    const QCommandLineOption quality(QStringLiteral("quality"),
+        QStringLiteral("JPEG quality of the tiles: 70, 80 or 90 (80)."), QStringLiteral("PERCENT"),
+        QStringLiteral("80"));
+    const QCommandLineOption pageSize(QStringLiteral("page-size"),
+        QStringLiteral("Size of the viewer area in the page (800x600)."), QStringLiteral("WxH"),
+        QStringLiteral("800x600"));
+    const QCommandLineOption fit(QStringLiteral("fit-to-page"),
+        QStringLiteral("The viewer fills the whole browser window (instead of --page-size)."));
+    const QCommandLineOption hotspots(QStringLiteral("hotspots"),
+        QStringLiteral("Link and info hotspots from a JSON file (docs/hotspots-file.md)."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption location(QStringLiteral("location"),
+        QStringLiteral("Where the panorama was taken, for map and compass: latitude and longitude "
+                       "in degrees, optionally the pan of north in degrees from the left edge."),
+        QStringLiteral("LAT,LNG[,NORTH]"));
+    const QCommandLineOption install(QStringLiteral("install"),
+        QStringLiteral("Installation folder holding VantoraViewer/vantoViewer.js (default: the "
+                       "build's)."),
+        QStringLiteral("DIR"), defaultInstall);
+    const QCommandLineOption library(QStringLiteral("library"),
+        QStringLiteral("The export library to load (default: the build's)."),
+        QStringLiteral("FILE"), defaultLibrary);
+    parser.addOptions({help, output, flat, hextent, vextent, quality, pageSize, fit, hotspots,
+        location, install, library});
+
+    auto error = [message](const QString &text) {
+        *message = text;
+        return ParseResult::Error;
+    };
+    if (!parser.parse(arguments))
+        return error(parser.errorText());
+    if (parser.isSet(help)) {
+        *message = parser.helpText();
+        return ParseResult::Help;
+    }
+
+    if (!parser.isSet(output) || parser.value(output).isEmpty())
+        return error(QStringLiteral("--output is required"));
+    const QFileInfo page(parser.value(output));
+    if (!page.fileName().endsWith(QLatin1String(".html"), Qt::CaseInsensitive)
+        || page.completeBaseName().isEmpty())
+        return error(QStringLiteral("--output must name an .html file"));
+    options->pagePath = page.absoluteFilePath();
+    options->images = parser.positionalArguments();
+    options->flat = parser.isSet(flat);
+
+    if (parser.isSet(hextent) && !parseExtent(parser.value(hextent), 360.0, &options->hextent))
+        return error(QStringLiteral("--hextent must be above 0 and at most 360"));
+    if (parser.isSet(vextent) && !parseExtent(parser.value(vextent), 180.0, &options->vextent))
+        return error(QStringLiteral("--vextent must be above 0 and at most 180"));
+    if (options->flat && (options->hextent || options->vextent))
+        return error(
+            QStringLiteral("--hextent and --vextent describe panoramas, not --flat images"));
+
+    const QString qualityText = parser.value(quality);
+    if (qualityText != QLatin1String("70") && qualityText != QLatin1String("80")
+        && qualityText != QLatin1String("90"))
+        return error(QStringLiteral("--quality must be 70, 80 or 90"));
+    options->quality = qualityText.toInt();
+
+    const QRegularExpressionMatch size
+        = QRegularExpression(QStringLiteral("^([1-9][0-9]{0,4})x([1-9][0-9]{0,4})$"))
+              .match(parser.value(pageSize));
+    if (!size.hasMatch())
+        return error(QStringLiteral("--page-size must be WIDTHxHEIGHT, e.g. 800x600"));
+    options->pageWidth = size.captured(1).toInt();
+    options->pageHeight = size.captured(2).toInt();
+    options->fitToPage = parser.isSet(fit);
+    if (options->fitToPage && parser.isSet(pageSize))
+        return error(QStringLiteral("--fit-to-page and --page-size exclude each other"));
+
+    options->hotspotFile = parser.value(hotspots);
+    if (parser.isSet(location)) {
+        Location where;
+        if (!parseLocation(parser.value(location), &where))
+            return error(QStringLiteral("--location must be LAT,LNG[,NORTH] with latitude -90..90, "
+                                        "longitude -180..180, north 0..360"));
+        options->location = where;
+    }
+    // The library joins this folder and the viewer's sub-folder without a separator between.
+    options->installFolder = QDir::toNativeSeparators(
+        QFileInfo(parser.value(install)).absoluteFilePath() + QLatin1Char('/'));
+    options->libraryPath = parser.value(library);
+    return ParseResult::Run;
+}
+
+} // namespace vantora::cli

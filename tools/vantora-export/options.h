@@ -1,0 +1,43 @@
+// The command line: what the user asked for, checked, or the one line that says what is wrong.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace vantora::cli {
+
+struct Location
+{
+    bool hasPosition = false; // latitude and longitude known
+    double latitude = 0.0;
+    double longitude = 0.0;
+    std::optional<double> north; // pan of north, degrees from the picture's left edge
+};
+
+struct CliOptions
+{
+    QStringList images; // empty: the embedded sample
+    QString pagePath;   // absolute; the first page of a tour
+    bool flat = false;
+    std::optional<double> hextent; // degrees; unset: from the aspect ratio
+    std::optional<double> vextent;
+    int quality = 80;
+    int pageWidth = 800;
+    int pageHeight = 600;
+    bool fitToPage = false;
+    QString hotspotFile;
+    std::optional<Location> location;
+    QString installFolder; // ends in a separator
+    QString libraryPath;
+};
+
+enum class ParseResult { Run, Help, Error };
+
+// Parses `arguments` (the program name first). On Help, `message` holds the help text; on Error,
+// one line without the program name.
+ParseResult parseOptions(const QStringList &arguments, const QString &defaultLibrary,
+    const QString &defaultInstall, CliOptions *options, QString *message);
+
+} // namespace vantora::cli

@@ -1,0 +1,146 @@
+#include "report.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QMap>
+
+#include <algorithm>
+#include <cstdio>
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace vantora::cli {
+namespace {
+
+QString humanSize(qint64 bytes)
+{
+    if (bytes < 1024)
+        return QStringLiteral("%1 B").arg(bytes);
+    if (bytes < 1024 * 1024)
+        return QStringLiteral("%1 KB").arg(double(bytes) / 1024, 0, 'f', 1);
+    return QStringLiteral("%1 MB").arg(double(bytes) / (1024 * 1024), 0, 'f', 1);
+}
+
+// The image-data folder a file lies in ("B_tiles"), empty for the files beside the page.
+QString tilesFolderOf(const QString &relativePath)
+{
+    const QString top = relativePath.section(QLatin1Char('/'), 0, 0);
+    return top != relativePath && top.endsWith(QLatin1String("_tiles")) ? top : QString();
+}
+
+} // namespace
+
+bool stderrIsTerminal()
+{
+#ifdef Q_OS_WIN
+    return _isatty(_fileno(stderr)) != 0;
+#else
+    return isatty(fileno(stderr)) != 0;
+#endif
+}
+
+ProgressLine::ProgressLine(bool terminal)
+    : m_terminal(terminal)
+{ }
+
+void ProgressLine::start(const QString &label)
+{
+    m_label = label;
+    m_percent = -1;
+    update(0);
+}
+
+void ProgressLine::update(int percent)
+{
+    if (!m_terminal || percent == m_percent)
+        return;
+    m_percent = percent;
+    std::fprintf(stderr, "\r%s: tiles %3d%%", m_label.toLocal8Bit().constData(), percent);
+    std::fflush(stderr);
+}
+
+void ProgressLine::finish()
+{
+    if (!m_terminal)
+        return;
+    update(100);
+    std::fputc('\n', stderr);
+}
+
+FolderSnapshot snapshotFolder(const QString &folder)
+{
+    FolderSnapshot files;
+    const QDir base(folder);
+    QDirIterator it(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
+        QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        it.next();
+        const QFileInfo info = it.fileInfo();
+        const QString name = base.relativeFilePath(info.filePath());
+        if (info.isDir())
+            files.insert(name + QLatin1Char('/'), qMakePair(qint64(-1), qint64(-1)));
+        else
+            files.insert(name, qMakePair(info.size(), info.lastModified().toMSecsSinceEpoch()));
+    }
+    return files;
+}
+
+void printSummary(QTextStream &out, const QString &folder, const FolderSnapshot &before,
+    const FolderSnapshot &after)
+{
+    QMap<QString, qint64> files; // sorted by name
+    QMap<QString, QPair<int, qint64>> tileFolders;
+    qint64 total = 0;
+    int count = 0;
+    for (auto it = after.cbegin(); it != after.cend(); ++it) {
+        if (it.key().endsWith(QLatin1Char('/'))
+            || before.value(it.key(), qMakePair(qint64(-1), qint64(-2))) == it.value())
+            continue;
+        const qint64 size = it.value().first;
+        total += size;
+        ++count;
+        const QString tiles = tilesFolderOf(it.key());
+        if (tiles.isEmpty()) {
+            files.insert(it.key(), size);
+        } else {
+            tileFolders[tiles].first += 1;
+            tileFolders[tiles].second += size;
+        }
+    }
+    out << "files written in " << QDir::toNativeSeparators(folder) << ":\n";
+    for (auto it = files.cbegin(); it != files.cend(); ++it)
+        out << QStringLiteral("  %1  %2\n").arg(humanSize(it.value()), 10).arg(it.key());
+    for (auto it = tileFolders.cbegin(); it != tileFolders.cend(); ++it)
+        out << QStringLiteral("  %1  %2/ (%3 files)\n")
+                   .arg(humanSize(it.value().second), 10)
+                   .arg(it.key())
+                   .arg(it.value().first);
+    out << QStringLiteral("  %1  in %2 files\n").arg(humanSize(total), 10).arg(count);
+}
+
+void removeNewFiles(const QString &folder, const FolderSnapshot &before)
+{
+    const QDir base(folder);
+    const FolderSnapshot now = snapshotFolder(folder);
+    QStringList folders;
+    for (auto it = now.cbegin(); it != now.cend(); ++it) {
+        if (before.contains(it.key()))
+            continue;
+        if (it.key().endsWith(QLatin1Char('/')))
+            folders.append(it.key());
+        else
+            QFile::remove(base.filePath(it.key()));
+    }
+    // Deepest first, so that a parent is empty by the time it is tried; rmdir keeps non-empty ones.
+    std::sort(folders.begin(), folders.end(),
+        [](const QString &a, const QString &b) { return a.size() > b.size(); });
+    for (const QString &path : folders)
+        base.rmdir(path);
+}
+
+} // namespace vantora::cli

@@ -1,0 +1,36 @@
+// The host's tile writer: the thumbnail and the multi-resolution tile pyramid of one panorama.
+#pragma once
+
+#include "sourceimage.h"
+#include "tilepyramid.h"
+
+#include <QString>
+#include <QVector>
+
+#include <functional>
+
+namespace vantora::cli {
+
+struct TileJob
+{
+    const SourceImage *source = nullptr;
+    QString tilesFolder; // the image-data folder, without a trailing separator
+    QString identifier;  // names the thumbnail
+    int outputWidth = 0; // the size of the largest level; smaller than the source: scaled down
+    int outputHeight = 0;
+    int quality = 80;
+    std::function<void(int percent)> progress; // may be empty
+};
+
+struct TileResult
+{
+    bool ok = false;
+    QString error; // one line when !ok
+    QVector<PyramidLevel> levels;
+};
+
+// Writes `tilesFolder`/<level>/<column>_<row>.jpg, level 0 the smallest, and the thumbnail.
+// Streams the source, so memory stays bounded whatever the picture's size.
+TileResult writeTilePyramid(const TileJob &job);
+
+} // namespace vantora::cli
