@@ -20,7 +20,7 @@ struct PresetKey
     const char *section;
     const char *key;
     Kind kind;
-    std::variant<bool P::*, int P::*, double P::*, Colour P::*, QString P::*> field;
+    PresetField field;
     const char *defaultText;
     int clampFrom = 0; // values from here on become clampTo; 0: no clamp
     int clampTo = 0;
@@ -179,6 +179,12 @@ bool writeKey(const QString &path, const PresetKey &k, const PresetValues &value
 }
 
 } // namespace
+
+void forEachPresetField(const std::function<void(const char *, PresetField)> &visit)
+{
+    for (const PresetKey &k : PRESET_KEYS)
+        std::visit([&](auto member) { visit(k.key, PresetField(member)); }, k.field);
+}
 
 bool PresetValues::operator==(const PresetValues &other) const
 {

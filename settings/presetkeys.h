@@ -6,6 +6,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <variant>
+
 namespace vantora::settings {
 
 // One member per preset key, named by the key; what a preset file holds, not the viewer record:
@@ -84,6 +87,13 @@ struct PresetValues
     bool operator==(const PresetValues &other) const;
     bool operator!=(const PresetValues &other) const { return !(*this == other); }
 };
+
+// A member of PresetValues, of any of the key kinds' types.
+using PresetField = std::variant<bool PresetValues::*, int PresetValues::*, double PresetValues::*,
+    Colour PresetValues::*, QString PresetValues::*>;
+
+// Calls visit(key, member) for every key, in the file's order.
+void forEachPresetField(const std::function<void(const char *, PresetField)> &visit);
 
 // Reads every key of the INI file at `path` (missing keys take their default texts, out-of-range
 // numbers are clamped, legacy keys are honoured). A missing file gives the defaults.

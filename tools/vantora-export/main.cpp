@@ -5,6 +5,7 @@
 #include "librarysession.h"
 #include "options.h"
 #include "report.h"
+#include "settingsfile.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -89,6 +90,9 @@ int main(int argc, char *argv[])
     if (!settingsFolder.isValid())
         return fail(EXIT_EXPORT_FAILED,
             QStringLiteral("cannot make a settings folder: %1").arg(settingsFolder.errorString()));
+    // Every page of a tour gets the same settings; without a settings file or a title the
+    // block stays empty and the library keeps its defaults.
+    const QByteArray settingsBlock = settingsBlockFor(options);
     LibrarySession library;
     if (!library.load(options.libraryPath, &error))
         return fail(EXIT_EXPORT_FAILED, error);
@@ -124,8 +128,7 @@ int main(int argc, char *argv[])
         progress.start(QStringLiteral("%1 (%2/%3)").arg(page.name).arg(i + 1).arg(pages.size()));
         QElapsedTimer clock;
         clock.start();
-        // The settings file option hands its block over here; without one, nothing is restored.
-        const ExportOutcome outcome = library.exportPage(*host.context(), nullptr);
+        const ExportOutcome outcome = library.exportPage(*host.context(), &settingsBlock);
         exportMs += clock.elapsed();
         tilesMs += host.tiles().elapsedMs;
         progress.finish();

@@ -89,6 +89,14 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         QStringLiteral("Where the panorama was taken, for map and compass: latitude and longitude "
                        "in degrees, optionally the pan of north in degrees from the left edge."),
         QStringLiteral("LAT,LNG[,NORTH]"));
+    const QCommandLineOption settingsFile(QStringLiteral("settings"),
+        QStringLiteral("Viewer settings from a preset file, as the settings dialog saves them "
+                       "(INI, docs/vantora-export.md)."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption title(QStringLiteral("title"),
+        QStringLiteral("Title shown over the panorama and in the browser (replaces the settings' "
+                       "title)."),
+        QStringLiteral("TEXT"));
     const QCommandLineOption install(QStringLiteral("install"),
         QStringLiteral("Installation folder holding VantoraViewer/vantoViewer.js (default: the "
                        "build's)."),
@@ -97,7 +105,7 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         QStringLiteral("The export library to load (default: the build's)."),
         QStringLiteral("FILE"), defaultLibrary);
     parser.addOptions({help, output, flat, hextent, vextent, quality, pageSize, fit, hotspots,
-        location, install, library});
+        location, settingsFile, title, install, library});
 
     auto error = [message](const QString &text) {
         *message = text;
@@ -153,6 +161,14 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
                                         "longitude -180..180, north 0..360"));
         options->location = where;
     }
+    if (parser.isSet(settingsFile)) {
+        const QFileInfo file(parser.value(settingsFile));
+        if (!file.isFile() || !file.isReadable())
+            return error(QStringLiteral("--settings: cannot read %1").arg(file.filePath()));
+        options->settingsFile = file.absoluteFilePath();
+    }
+    if (parser.isSet(title))
+        options->title = parser.value(title);
     // The library joins this folder and the viewer's sub-folder without a separator between.
     options->installFolder = QDir::toNativeSeparators(
         QFileInfo(parser.value(install)).absoluteFilePath() + QLatin1Char('/'));

@@ -28,6 +28,8 @@ struct CliOptions
     int pageHeight = 600;
     bool fitToPage = false;
     QString hotspotFile;
+    QString settingsFile;         // a preset INI file; empty: the library's defaults
+    std::optional<QString> title; // replaces the settings' title
     std::optional<Location> location;
     QString installFolder; // ends in a separator
     QString libraryPath;

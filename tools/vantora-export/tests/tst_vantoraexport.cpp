@@ -168,6 +168,7 @@ private Q_SLOTS:
     void flatPicture();
     void partialPanorama_data();
     void partialPanorama();
+    void settingsAndTitle();
     void qualityChangesTheTiles();
     void reexportReplacesThePyramid();
     void failedTourTakesBackItsFiles();
@@ -211,7 +212,9 @@ void tst_VantoraExport::tour()
         const QJsonObject root
             = viewerRoot(out + QLatin1Char('/') + name + QStringLiteral(".json"));
         QVERIFY2(!root.isEmpty(), page.page);
-        // The controls file is named for the viewer; the page's node describes its own tiles.
+        // Each page has its controls file; the page's node describes its own tiles.
+        QVERIFY(viewerRoot(out + QLatin1Char('/') + name + QStringLiteral("_controls.json"))
+                    .contains(QLatin1String("events")));
         QCOMPARE(
             root.value(QLatin1String("include")).toArray().first()[QLatin1String("src")].toString(),
             name + QStringLiteral("_controls.json"));
@@ -325,6 +328,31 @@ void tst_VantoraExport::partialPanorama()
         (camera[1] - camera[0]) / 2);
 }
 
+void tst_VantoraExport::settingsAndTitle()
+{
+    // A preset as the settings dialog saves it (here in ANSI): scripts as .js, a map.
+    QVERIFY(writePicture(path(QStringLiteral("hall.jpg")), 800, 400, Qt::red));
+    QVERIFY(writeText(path(QStringLiteral("preset.ini")),
+        "[Applet]\r\nExtensionJS=1\r\nAddMap=1\r\n[Toolbar]\r\nTBDesign=6\r\n"));
+    const QString out = path(QStringLiteral("out"));
+    const Run run = runTool({path(QStringLiteral("hall.jpg")), QStringLiteral("-o"),
+        out + QStringLiteral("/hall.html"), QStringLiteral("--settings"),
+        path(QStringLiteral("preset.ini")), QStringLiteral("--title"), QStringLiteral("Hafen Süd"),
+        QStringLiteral("--location"), QStringLiteral("53.5,10,12")});
+    QVERIFY2(run.status == 0, qPrintable(run.err));
+
+    const QJsonObject node = nodeOf(out + QStringLiteral("/hall.js"));
+    QCOMPARE(node.value(QLatin1String("textbox"))[0][QLatin1String("text")].toString(),
+        QStringLiteral("Hafen Süd"));
+    QCOMPARE(node.value(QLatin1String("location")).toObject(),
+        QJsonObject({{QStringLiteral("lat"), 53.5}, {QStringLiteral("lng"), 10},
+            {QStringLiteral("north"), 12}}));
+    // Design 6's play handler carries its tab.
+    const QJsonObject controls = viewerRoot(out + QStringLiteral("/hall_controls.js"));
+    QVERIFY(controls.value(QLatin1String("events"))[QLatin1String("onplay")].toString().contains(
+        QStringLiteral("24,24)';  \to.updateSkins()")));
+}
+
 void tst_VantoraExport::qualityChangesTheTiles()
 {
     QVERIFY(writePicture(path(QStringLiteral("q.jpg")), 1500, 750, Qt::darkYellow));
@@ -407,6 +435,7 @@ void tst_VantoraExport::badInput_data()
         {"no viewer",          "-o @/out/x.html --install @",           "no viewer script @/VantoraViewer/vantoViewer.js"},
         // Found broken only while the tiles are cut: what was written by then is taken back.
         {"truncated picture",  "@/trunc.png -o @/out/x.html",           "export of trunc.png failed: tiles of trunc.png: "},
+        {"settings missing",   "-o @/out/x.html --settings @/none.ini", "--settings: cannot read @/none.ini"},
         {"not a library",      "@/good.jpg -o @/out/x.html --library @/text.jpg", "cannot load the library"},
         // clang-format on
     };
