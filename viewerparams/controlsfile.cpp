@@ -2,6 +2,7 @@
 
 #include "contextmenu.h"
 #include "memberwriter.h"
+#include "viewercontrols/toolbar.h"
 
 namespace vantora::params {
 namespace {
@@ -44,9 +45,19 @@ QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions)
     QJsonObject captionsDe;
     buildMainEvents(root, actions, flags, input.view);
 
-    // The toolbar ("buttonBox" and the free-standing "button" array) and the orientation element
-    // ("orientation") join here: their actions follow the intro's and precede the message actions,
-    // and their captions go into captionsDe.
+    // The toolbar and the orientation element join here: their actions follow the intro's and
+    // precede the message actions, and their captions go into captionsDe.
+    if (settings.AddToolbar) {
+        controls::ToolbarInput toolbar;
+        toolbar.settings = &settings;
+        toolbar.design = flags.design;
+        toolbar.noGyroscope = input.flatMode;
+        toolbar.vrCapable = input.vrAvailable;
+        toolbar.host = input.host;
+        toolbar.outputFolder = input.outputFolder;
+        controls::writeToolbar(root, actions, toolbar);
+        root.insert(QStringLiteral("button"), controls::buildFreeButtons(toolbar));
+    }
 
     appendMessageActions(actions);
     // The menu's own actions come last: the handlers above never call them.
@@ -62,7 +73,9 @@ QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions)
 QJsonObject writeControlsFile(const QString &outputFolder, const QString &controlsFileName,
     const ControlsInput &input, QJsonArray &actions)
 {
-    const QJsonObject root = buildControls(input, actions);
+    ControlsInput located = input;
+    located.outputFolder = outputFolder;
+    const QJsonObject root = buildControls(located, actions);
     writeViewerParamsFile(outputFolder + controlsFileName, root, Layout::Plain);
     return QJsonObject {{QStringLiteral("src"), formattedWithoutArguments(controlsFileName)}};
 }

@@ -23,6 +23,9 @@ struct ControlsInput
     plugin::View view;
     bool flatMode = false;
     bool vrAvailable = false; // spherical and a full sphere
+    // Where the map's marker pictures go (ends in a separator; empty: bare file names).
+    // writeControlsFile() sets it to its own output folder.
+    QString outputFolder;
 };
 
 // TBDesign clamped into 0..7.

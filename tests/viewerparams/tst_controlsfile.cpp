@@ -277,10 +277,13 @@ void tst_ControlsFile::menuItemTexts()
 
 void tst_ControlsFile::rootMembers()
 {
-    // Without menu entries there is neither a menu nor a caption to translate.
+    // Without menu entries there is neither a menu nor a caption to translate. The toolbar's
+    // members have their own tests.
     Controls bare;
+    bare.settings.AddToolbar = false;
     QCOMPARE(bare.build().keys(), QStringList({"actions", "events"}));
     Controls withMenu;
+    withMenu.settings.AddToolbar = false;
     withMenu.settings.ContextMenuItems = entries({0, 1});
     const QJsonObject root = withMenu.build();
     QCOMPARE(root.keys(), QStringList({"actions", "contextmenu", "events", "translate"}));
@@ -298,6 +301,7 @@ void tst_ControlsFile::writtenFile()
     Controls c;
     c.settings.ContextMenuItems = entries({1});
     c.settings.TBDesign = 6;
+    c.settings.AddToolbar = false; // the toolbar's members have their own tests
     const QString folder = dir.path() + "/sub/";
     const QJsonObject include
         = params::writeControlsFile(folder, "tour_controls.json", c.input, c.actions);

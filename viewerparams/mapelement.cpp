@@ -1,0 +1,87 @@
+#include "mapelement.h"
+
+#include "actions.h"
+#include "elementtexts.h"
+#include "resources/resources.h"
+
+#include <iterator>
+
+namespace vantora::params {
+namespace {
+
+// clang-format off
+// The frame around the map by design; any other value takes design 0's.
+constexpr const char *CONTENT_STYLES[] = {
+    /* 0 */ "position: absolute; left: 4px; right: 4px; bottom: 4px; top: 4px; display: inline; overflow: hidden;",
+    /* 1 */ "position: absolute; left: 4px; right: 4px; bottom: 4px; top: 4px; display: inline; overflow: hidden; box-shadow: rgb(0, 0, 0) 1px 1px 3px 1.7px;",
+    /* 2 */ "position: absolute; left: 4px; right: 4px; bottom: 4px; top: 4px; display: inline; overflow: hidden; border-radius: 3px; box-shadow: rgb(0, 0, 0) 1px 1px 3px 1.7px;",
+    /* 3 */ "position: absolute; left: 8px; right: 8px; bottom: 8px; top: 8px; display: inline; overflow: hidden; border-radius: 3px; box-shadow: rgba(0, 0, 0, 0.4) 1px 1px 3px 2px;",
+    /* 4 */ "position: absolute; left: 4px; right: 4px; bottom: 4px; top: 4px; display: inline; overflow: hidden; border-radius: 2px; box-shadow: rgba(0, 0, 0, 1) 0px 0px 1px 1px;",
+    /* 5 */ "position: absolute; left: 8px; right: 8px; bottom: 8px; top: 8px; display: inline; overflow: hidden; border-radius: 3px; box-shadow: rgba(0, 0, 0, 0.4) 2px 2px 3px 2px;",
+    /* 6 */ "position: absolute; left: 8px; right: 8px; bottom: 8px; top: 8px; display: inline; overflow: hidden; box-shadow: rgba(0, 0, 0, 0.4) 2px 2px 2px 0.5px;",
+    /* 7 */ "position: absolute; left: 8px; right: 8px; bottom: 8px; top: 8px; display: inline; overflow: hidden; border-radius: 2px;",
+};
+// The map types the viewer knows, by MapType.
+constexpr const char *MAP_TYPES[] = {"hybrid", "satellite", "roadmap", "osm"};
+// clang-format on
+static_assert(std::size(CONTENT_STYLES) == 8, "one row per toolbar design");
+
+void exportMarker(HostContext *host, const char *resource, const QString &target)
+{
+    if (!host || !host->exportResource)
+        return;
+    const QString source = QLatin1String(resource);
+    host->exportResource(reinterpret_cast<const char16_t *>(source.utf16()),
+        reinterpret_cast<const char16_t *>(target.utf16()));
+}
+
+} // namespace
+
+void writeMapElement(QJsonObject &element, QJsonArray &actions, int design,
+    const settings::ViewerSettings &settings, HostContext *host, const QString &outputFolder)
+{
+    element.insert(QStringLiteral("align"),
+        settings.MapPosition != 0 ? QStringLiteral("leftbottom") : QStringLiteral("lefttop"));
+    element.insert(QStringLiteral("apikey"), settings.GmAPIKey);
+    element.insert(QStringLiteral("id"), QStringLiteral("map"));
+    element.insert(QStringLiteral("zoom"), settings.MapZoom);
+    element.insert(QStringLiteral("type"), QStringLiteral("gmap"));
+    element.insert(QStringLiteral("style"),
+        settings.MapVisible ? QStringLiteral("opacity: 1; transition: opacity 0.5s")
+                            : QStringLiteral("opacity: 0; transition: opacity 0.5s"));
+    element.insert(QStringLiteral("visible"), settings.MapVisible);
+    if (settings.MapType >= 0 && settings.MapType < int(std::size(MAP_TYPES)))
+        element.insert(QStringLiteral("gmapstype"), QLatin1String(MAP_TYPES[settings.MapType]));
+    element.insert(QStringLiteral("zoomcontrols"), settings.MapZoomControls);
+    element.insert(QStringLiteral("typecontrols"), settings.MapTypeControls);
+    element.insert(QStringLiteral("gmarker"), QLatin1String(MAP_MARKER));
+    element.insert(QStringLiteral("gmarkeractive"), QLatin1String(MAP_MARKER_ACTIVE));
+    // A map open at start sizes itself once the viewer knows its height; a closed one has none.
+    if (settings.MapVisible)
+        element.insert(QStringLiteral("oninit"), QLatin1String(MAP_ONINIT));
+    else
+        element.insert(QStringLiteral("height"), QStringLiteral("0px"));
+    const bool knownDesign = design >= 0 && design < int(std::size(CONTENT_STYLES));
+    element.insert(
+        QStringLiteral("contentstyle"), QLatin1String(CONTENT_STYLES[knownDesign ? design : 0]));
+    if (settings.MapHideOnMarker)
+        element.insert(QStringLiteral("onmarkerclick"), QLatin1String(MAP_ONMARKERCLICK));
+
+    resources::ensureRegistered();
+    exportMarker(host, MARKER_RESOURCE, outputFolder + QLatin1String(MARKER_FILE));
+    exportMarker(host, MARKER_ACTIVE_RESOURCE, outputFolder + QLatin1String(MARKER_ACTIVE_FILE));
+
+    if (settings.MapRadar)
+        element.insert(QStringLiteral("radar"),
+            QJsonObject {
+                {QStringLiteral("radarcontext"), QLatin1String(MAP_RADAR_CONTEXT)},
+                {QStringLiteral("radius"), 0.99},
+                {QStringLiteral("width"), 256},
+            });
+
+    appendAction(actions, QStringLiteral("toggleMap"), QLatin1String(TOGGLE_MAP));
+    appendAction(actions, QStringLiteral("hideMap"), QLatin1String(HIDE_MAP));
+    appendAction(actions, QStringLiteral("resizeMap"), QLatin1String(RESIZE_MAP));
+}
+
+} // namespace vantora::params
