@@ -2,6 +2,7 @@
 
 #include "contextmenu.h"
 #include "memberwriter.h"
+#include "orientation.h"
 
 namespace vantora::params {
 namespace {
@@ -44,9 +45,14 @@ QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions)
     QJsonObject captionsDe;
     buildMainEvents(root, actions, flags, input.view);
 
-    // The toolbar ("buttonBox" and the free-standing "button" array) and the orientation element
-    // ("orientation") join here: their actions follow the intro's and precede the message actions,
-    // and their captions go into captionsDe.
+    // The toolbar ("buttonBox" and the free-standing "button" array) joins here: its actions
+    // follow the intro's and precede the message actions, and its captions go into captionsDe.
+
+    if (settings.AddOrientation && !isToolbarOrientation(settings.OrientationElement)) {
+        const QJsonObject element = buildOrientationElement(actions, flags.design, settings);
+        if (!element.isEmpty())
+            root.insert(QStringLiteral("orientation"), QJsonArray {element});
+    }
 
     appendMessageActions(actions);
     // The menu's own actions come last: the handlers above never call them.
