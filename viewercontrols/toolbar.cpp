@@ -6,6 +6,7 @@
 #include "toolbardesigns.h"
 #include "viewerparams/galleryelement.h"
 #include "viewerparams/mapelement.h"
+#include "viewerparams/orientation.h"
 #include "vrbuttons.h"
 
 namespace vantora::controls {
@@ -45,9 +46,8 @@ QJsonArray toolbarButtons(QJsonArray &actions, const ToolbarInput &input)
         appendButton(buttons, [&](QJsonObject &b) { writeGalleryButton(b, design); });
     if (s.AddMap)
         appendButton(buttons, [&](QJsonObject &b) { writeMapButton(b, design); });
-    // Here, at toolbar index 2, the orientation element (compass or radar) adds its toolbar
-    // items when AddOrientation is set and OrientationElement is 10 or 11; its writer comes with
-    // the orientation element.
+    if (s.AddOrientation) // only the toolbar kinds of the compass and radar add an item here
+        params::appendOrientationToolbarItems(buttons, actions, design, s);
     appendButton(
         buttons, [&](QJsonObject &b) { writeInfoButton(b, design, s.InfoHTML64, s.ShowInfoBox); });
     if (s.HotspotsButton)

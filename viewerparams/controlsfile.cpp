@@ -2,6 +2,7 @@
 
 #include "contextmenu.h"
 #include "memberwriter.h"
+#include "orientation.h"
 #include "viewercontrols/toolbar.h"
 
 namespace vantora::params {
@@ -57,6 +58,12 @@ QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions)
         toolbar.outputFolder = input.outputFolder;
         controls::writeToolbar(root, actions, toolbar);
         root.insert(QStringLiteral("button"), controls::buildFreeButtons(toolbar));
+    }
+    // The compass or radar over the picture; the toolbar kinds were placed by the toolbar.
+    if (settings.AddOrientation && !isToolbarOrientation(settings.OrientationElement)) {
+        const QJsonObject element = buildOrientationElement(actions, flags.design, settings);
+        if (!element.isEmpty())
+            root.insert(QStringLiteral("orientation"), QJsonArray {element});
     }
 
     appendMessageActions(actions);

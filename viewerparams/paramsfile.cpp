@@ -1,6 +1,7 @@
 #include "paramsfile.h"
 
 #include "controlsfile.h"
+#include "galleryfile.h"
 #include "hotspots.h"
 #include "infobox.h"
 #include "jsonbridge.h"
@@ -235,8 +236,6 @@ QJsonObject locationObject(HostContext &host, const ViewerSettings &settings)
 ParamsDocument buildViewerParams(const ParamsInput &input, const QString &outputFolder,
     const QString &paramsFileName, const QString &controlsFileName, const QString &galleryFileName)
 {
-    // The gallery file is not written yet; its include joins the list below once it is.
-    Q_UNUSED(galleryFileName);
     HostContext &host = *input.host;
     const ViewerSettings &settings = *input.settings;
     // Bitmaps and tiles go into the folder before the parameter file itself does.
@@ -290,8 +289,11 @@ ParamsDocument buildViewerParams(const ParamsInput &input, const QString &output
     if (!settings.Sound.isEmpty())
         (settings.AudioGlobal ? root : node).insert(QStringLiteral("audio"), soundObject(settings));
 
-    if (settings.AddMap || settings.AddOrientation)
-        node.insert(QStringLiteral("location"), locationObject(host, settings));
+    QJsonObject location;
+    if (settings.AddMap || settings.AddOrientation) {
+        location = locationObject(host, settings);
+        node.insert(QStringLiteral("location"), location);
+    }
 
     root.insert(QStringLiteral("node"), node);
 
@@ -302,8 +304,12 @@ ParamsDocument buildViewerParams(const ParamsInput &input, const QString &output
     controls.flatMode = input.flatMode;
     controls.vrAvailable = vr;
     QJsonArray actions;
-    root.insert(QStringLiteral("include"),
-        QJsonArray {writeControlsFile(outputFolder, controlsFileName, controls, actions)});
+    QJsonArray include {writeControlsFile(outputFolder, controlsFileName, controls, actions)};
+    // The gallery strip and the map's markers both list the tour's panoramas.
+    if (settings.AddGallery || settings.AddMap)
+        include.append(writeGalleryFile(
+            outputFolder, galleryFileName, paramsFileName, settings.ShortDescription64, location));
+    root.insert(QStringLiteral("include"), include);
     return document;
 }
 

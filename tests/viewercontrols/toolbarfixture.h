@@ -34,6 +34,8 @@ struct Toolbar
         settings.AddVrMode = true;
         settings.GyroButton = true;
         settings.AddGyro = true;
+        settings.AddOrientation = true;
+        settings.OrientationElement = 10; // the compass in the toolbar
         return *this;
     }
     QJsonObject toolbar() { return controls::buildToolbar(actions, input); }

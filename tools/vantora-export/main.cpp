@@ -5,6 +5,7 @@
 #include "librarysession.h"
 #include "options.h"
 #include "report.h"
+#include "resources/resources.h"
 #include "settingsfile.h"
 
 #include <QDir>
@@ -63,6 +64,9 @@ int main(int argc, char *argv[])
     standardHandler = qInstallMessageHandler(filterQtMessages);
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vantora-export"));
+    // The map markers the library asks the host to export are the library's own pictures; the
+    // tool carries them through the library's sources it links anyway.
+    vantora::resources::ensureRegistered();
 
     CliOptions options;
     QString message;

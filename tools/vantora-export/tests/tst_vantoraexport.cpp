@@ -193,11 +193,15 @@ void tst_VantoraExport::tour()
     QVERIFY(writePicture(path(QStringLiteral("tower.jpg")), 1400, 700, Qt::blue));
     QVERIFY(writePicture(path(QStringLiteral("info.png")), 32, 32, Qt::yellow));
     QVERIFY(writeText(path(QStringLiteral("hotspots.json")), TOUR_HOTSPOTS));
+    QVERIFY(
+        writeText(path(QStringLiteral("tour.ini")), "[Applet]\r\nAddGallery=1\r\nAddMap=1\r\n"));
 
     const QString out = path(QStringLiteral("out"));
     const Run run = runTool({path(QStringLiteral("hall.jpg")), path(QStringLiteral("garden.png")),
         path(QStringLiteral("tower.jpg")), QStringLiteral("-o"), out + QStringLiteral("/tour.html"),
-        QStringLiteral("--hotspots"), path(QStringLiteral("hotspots.json"))});
+        QStringLiteral("--hotspots"), path(QStringLiteral("hotspots.json")),
+        QStringLiteral("--settings"), path(QStringLiteral("tour.ini")),
+        QStringLiteral("--location"), QStringLiteral("48.5,11")});
     QVERIFY2(run.status == 0, qPrintable(run.err));
     QVERIFY(run.err.isEmpty());
 
@@ -247,6 +251,18 @@ void tst_VantoraExport::tour()
         QStringLiteral("Fountain"));
     QVERIFY(QFileInfo(out + QStringLiteral("/info.png")).isFile());
     QVERIFY(!nodeOf(out + QStringLiteral("/tower.json")).contains(QLatin1String("hotspot")));
+
+    // The gallery, rewritten by each page, lists the last page first and then the folder's
+    // other pages by name; each thumbnail it names was written by the tile writer.
+    const QJsonArray gallery
+        = viewerRoot(out + QStringLiteral("/vantoViewerGallery.json")).value("gallery").toArray();
+    QStringList hrefs;
+    for (const QJsonValue entry : gallery) {
+        hrefs << entry["href"].toString();
+        QVERIFY(QImageReader(out + QLatin1Char('/') + entry["thumbnail"].toString()).canRead());
+        QCOMPARE(entry["location"]["lat"].toDouble(), 48.5);
+    }
+    QCOMPARE(hrefs, QStringList({"tower.json", "garden.json", "tour.json"}));
 }
 
 void tst_VantoraExport::flatPicture()
@@ -330,10 +346,10 @@ void tst_VantoraExport::partialPanorama()
 
 void tst_VantoraExport::settingsAndTitle()
 {
-    // A preset as the settings dialog saves it (here in ANSI): scripts as .js, a map.
+    // A preset as the settings dialog saves it (here in ANSI): scripts as .js, a map with its key.
     QVERIFY(writePicture(path(QStringLiteral("hall.jpg")), 800, 400, Qt::red));
     QVERIFY(writeText(path(QStringLiteral("preset.ini")),
-        "[Applet]\r\nExtensionJS=1\r\nAddMap=1\r\n[Toolbar]\r\nTBDesign=6\r\n"));
+        "[Applet]\r\nExtensionJS=1\r\nAddMap=1\r\nGmAPIKey=QUl6YVRlc3RLZXkxMjM=\r\n[Toolbar]\r\nTBDesign=6\r\n"));
     const QString out = path(QStringLiteral("out"));
     const Run run = runTool({path(QStringLiteral("hall.jpg")), QStringLiteral("-o"),
         out + QStringLiteral("/hall.html"), QStringLiteral("--settings"),
@@ -351,6 +367,9 @@ void tst_VantoraExport::settingsAndTitle()
     const QJsonObject controls = viewerRoot(out + QStringLiteral("/hall_controls.js"));
     QVERIFY(controls.value(QLatin1String("events"))[QLatin1String("onplay")].toString().contains(
         QStringLiteral("24,24)';  \to.updateSkins()")));
+    // The map's markers came through the host's resource exporter.
+    for (const char *marker : {"/pap_marker_redorange.png", "/pap_marker_lima.png"})
+        QCOMPARE(QImageReader(out + QLatin1String(marker)).size(), QSize(60, 96));
 }
 
 void tst_VantoraExport::qualityChangesTheTiles()

@@ -1,7 +1,10 @@
 #!/usr/bin/env python3
-"""Draws the pictures compiled into vantora-export: the two map markers and the two hotspot
-symbols. Pure Python (no imaging package), 4x4 supersampled, so the PNGs come out the same on
-every machine. Run from this folder: python3 drawresources.py"""
+"""Draws the compiled-in pictures: the two map markers of the library (BMPS/hotspots/marker/) and
+the two hotspot symbols of the command-line host (../tools/vantora-export/resources/). The map
+shows a marker at 30 x 48 CSS pixels with its tip at (15, 42); it is drawn at twice that size so
+that it stays sharp on high-density screens. Pure Python (no imaging package), 4x4 supersampled,
+so the PNGs come out the same on every machine. Run from this folder: python3 drawresources.py"""
+import os
 import struct
 import zlib
 
@@ -90,7 +93,10 @@ def symbol(kind):
 
 
 if __name__ == "__main__":
-    png("marker_redorange.png", 60, 96, marker((255, 90, 31)))
-    png("marker_lima.png", 60, 96, marker((164, 212, 28)))
-    png("hotspot_link.png", 48, 48, symbol("link"))
-    png("hotspot_info.png", 48, 48, symbol("info"))
+    markers = os.path.join("BMPS", "hotspots", "marker")
+    symbols = os.path.join("..", "tools", "vantora-export", "resources")
+    os.makedirs(markers, exist_ok=True)
+    png(os.path.join(markers, "marker_redorange.png"), 60, 96, marker((255, 90, 31)))  # a panorama on the map
+    png(os.path.join(markers, "marker_lima.png"), 60, 96, marker((164, 212, 28)))  # the one shown now
+    png(os.path.join(symbols, "hotspot_link.png"), 48, 48, symbol("link"))
+    png(os.path.join(symbols, "hotspot_info.png"), 48, 48, symbol("info"))

@@ -1,0 +1,25 @@
+// The tour gallery file: every panorama exported into the output folder, the current one first.
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+
+namespace vantora::params {
+
+// Appends the entry of one panorama: its thumbnail and parameter file, and its description and
+// location when they are not empty.
+void addGalleryEntry(QJsonArray &gallery, const QString &paramsFileName, const QString &text,
+    const QJsonObject &location);
+
+// Reads `fileName` (relative to the current directory) and appends its entry when it is the
+// parameter file of an earlier export. Anything else, unreadable files included, is passed over.
+void readGalleryEntry(QJsonArray &gallery, const QString &fileName);
+
+// Collects the current panorama and every earlier export of `outputFolder` into
+// outputFolder + galleryFileName. Returns the include object {"src": galleryFileName}, also when
+// the file cannot be written.
+QJsonObject writeGalleryFile(const QString &outputFolder, const QString &galleryFileName,
+    const QString &paramsFileName, const QString &description, const QJsonObject &location);
+
+} // namespace vantora::params
