@@ -2,6 +2,7 @@
 // them: result codes, the page, names, buffers, the start view and its blocks, the parameter file,
 // the tile writer's request and hotspots.
 #include "common/hostbuilder.h"
+#include "common/scriptcheck.h"
 #include "common/textcompare.h"
 #include "settings/settingsblock.h"
 #include "settings/viewersettingsfields.h"
@@ -12,7 +13,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLibrary>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -674,12 +674,8 @@ void tst_ExportApplet::hotspots()
     QVERIFY(!spots[2].toObject().contains("href"));
 
     // Both files run in a script engine, their function texts included.
-    QProcess node;
-    node.setProcessChannelMode(QProcess::MergedChannels);
-    node.start(VANTORA_NODE, {VANTORA_CHECKJS, m_out + "tour.json", m_out + "tour_controls.json"});
-    QVERIFY2(node.waitForFinished(60000), qPrintable(node.errorString()));
-    QVERIFY2(node.exitStatus() == QProcess::NormalExit && node.exitCode() == 0,
-        node.readAll().constData());
+    VANTORA_VERIFY_SCRIPTS(
+        vantora::test::checkScripts({m_out + "tour.json", m_out + "tour_controls.json"}));
 }
 
 QTEST_MAIN(tst_ExportApplet)

@@ -1,12 +1,12 @@
 // The toolbar object in every design, position and start state; the order and gates of its
 // buttons; the hide and show handlers; the free-standing buttons; every script of a written
 // controls file parsed by Node.js.
+#include "common/scriptcheck.h"
 #include "common/textcompare.h"
 #include "toolbarfixture.h"
 #include "viewerparams/controlsfile.h"
 #include "viewerparams/paramsfixture.h"
 
-#include <QProcess>
 #include <QSet>
 #include <QtTest>
 
@@ -406,13 +406,9 @@ void tst_Toolbar::everyScriptParses()
             }
         }
     }
-    QProcess node;
-    node.setProcessChannelMode(QProcess::MergedChannels);
-    node.start(VANTORA_NODE, QStringList {VANTORA_CHECKJS} + files);
-    QVERIFY2(node.waitForFinished(60000), qPrintable(node.errorString()));
-    const QByteArray output = node.readAll();
-    QVERIFY2(node.exitCode() == 0, output.constData());
-    QVERIFY2(output.contains(QByteArray::number(files.size()) + " files"), output.constData());
+    const test::ScriptCheck check = test::checkScripts(files);
+    VANTORA_VERIFY_SCRIPTS(check);
+    QVERIFY2(check.counted(files.size()), check.output.constData());
 }
 
 QTEST_MAIN(tst_Toolbar)

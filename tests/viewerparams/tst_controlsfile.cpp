@@ -1,10 +1,10 @@
 // The controls file: event handlers by design and flags, actions, context menu, file and include.
+#include "common/scriptcheck.h"
 #include "paramsfixture.h"
 
 #include "viewerparams/contextmenu.h"
 #include "viewerparams/controlsfile.h"
 
-#include <QProcess>
 #include <QtTest>
 
 using namespace vantora;
@@ -343,13 +343,9 @@ void tst_ControlsFile::everyScriptParses()
             params::writeControlsFile(QString(), files.last(), c.input, c.actions);
         }
     }
-    QProcess node;
-    node.setProcessChannelMode(QProcess::MergedChannels);
-    node.start(VANTORA_NODE, QStringList {VANTORA_CHECKJS} + files);
-    QVERIFY2(node.waitForFinished(60000), qPrintable(node.errorString()));
-    const QByteArray output = node.readAll();
-    QVERIFY2(node.exitCode() == 0, output.constData());
-    QVERIFY2(output.contains(QByteArray::number(files.size()) + " files"), output.constData());
+    const test::ScriptCheck check = test::checkScripts(files);
+    VANTORA_VERIFY_SCRIPTS(check);
+    QVERIFY2(check.counted(files.size()), check.output.constData());
 }
 
 QTEST_MAIN(tst_ControlsFile)

@@ -1,11 +1,11 @@
 // The orientation element: twelve kinds, three positions, eight designs, toolbar or picture.
+#include "common/scriptcheck.h"
 #include "paramsfixture.h"
 
 #include "viewerparams/controlsfile.h"
 #include "viewerparams/memberwriter.h"
 #include "viewerparams/orientation.h"
 
-#include <QProcess>
 #include <QtTest>
 
 using namespace vantora;
@@ -203,16 +203,11 @@ void tst_Orientation::everyScriptParses()
         QVERIFY(params::writeViewerParamsFile(
             files.last(), allOfDesign(design), params::Layout::Plain));
     }
-    QProcess node;
-    node.setProcessChannelMode(QProcess::MergedChannels);
-    node.start(VANTORA_NODE, QStringList {VANTORA_CHECKJS} + files);
-    QVERIFY2(node.waitForFinished(60000), qPrintable(node.errorString()));
-    const QByteArray output = node.readAll();
-    QVERIFY2(node.exitCode() == 0, output.constData());
+    const test::ScriptCheck check = test::checkScripts(files);
+    VANTORA_VERIFY_SCRIPTS(check);
     // 30 elements and 2 toolbar items per design: two visibility handlers and a click handler
     // each, one action per element, and the canvas function of each of the 10 radars.
-    QVERIFY2(output.contains("8 files, " + QByteArray::number(8 * (32 * 4 + 10)) + " functions"),
-        output.constData());
+    QVERIFY2(check.counted(8, 8 * (32 * 4 + 10)), check.output.constData());
 }
 
 QTEST_MAIN(tst_Orientation)

@@ -1,0 +1,30 @@
+#include "scriptcheck.h"
+
+#include <QProcess>
+
+namespace vantora::test {
+
+bool ScriptCheck::counted(int files, int functions) const
+{
+    QByteArray summary = QByteArray::number(files) + " files, ";
+    if (functions >= 0)
+        summary += QByteArray::number(functions) + " functions";
+    return output.contains(summary);
+}
+
+ScriptCheck checkScripts(const QStringList &files)
+{
+    ScriptCheck check;
+    QProcess node;
+    node.setProcessChannelMode(QProcess::MergedChannels);
+    node.start(QStringLiteral(VANTORA_NODE), QStringList {QStringLiteral(VANTORA_CHECKJS)} + files);
+    if (!node.waitForFinished(60000)) {
+        check.output = node.errorString().toUtf8();
+        return check;
+    }
+    check.output = node.readAll();
+    check.passed = node.exitStatus() == QProcess::NormalExit && node.exitCode() == 0;
+    return check;
+}
+
+} // namespace vantora::test
