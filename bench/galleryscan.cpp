@@ -57,6 +57,14 @@ int main(int argc, char **argv)
     QStringList counts = app.arguments().mid(1);
     if (counts.isEmpty())
         counts = QStringList {"100", "300", "1000"};
+    for (const QString &count : counts) {
+        bool ok = false;
+        if (count.toInt(&ok) <= 0 || !ok) {
+            QTextStream(stderr) << "usage: bench_gallery_scan [COUNT...]   (COUNT > 0; default "
+                                   "100 300 1000)\n";
+            return 2;
+        }
+    }
     QTextStream out(stdout);
     out << "exports  bytes      scan ms  read ms  ratio  scan us/file\n";
     for (const QString &count : counts) {
