@@ -2,10 +2,7 @@
 #pragma once
 
 #include "viewercontrols/toolbar.h"
-
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QString>
+#include "viewerparams/paramsfixture.h"
 
 namespace vantora::test {
 
@@ -18,54 +15,29 @@ struct Toolbar
     explicit Toolbar(int design = 0)
     {
         settings::resetViewerSettings(settings, true);
-        settings.TBDesign = design;
+        settings.TBDesign = input.design = design;
         input.settings = &settings;
-        input.design = design;
         input.vrCapable = true;
     }
-    // Everything optional switched on; the gallery buttons sit in the toolbar.
+    // Everything optional on: the gallery buttons in the toolbar, the compass at index 2.
     Toolbar &full()
     {
-        settings.AddGallery = true;
-        settings.GalleryButtons = 1;
-        settings.AddMap = true;
-        settings.GmAPIKey = QStringLiteral("0123456789");
-        settings.HotspotsButton = true;
-        settings.AddVrMode = true;
-        settings.GyroButton = true;
-        settings.AddGyro = true;
-        settings.AddOrientation = true;
-        settings.OrientationElement = 10; // the compass in the toolbar
+        settings::ViewerSettings &s = settings;
+        s.AddGallery = s.AddMap = s.HotspotsButton = s.AddVrMode = true;
+        s.GyroButton = s.AddGyro = s.AddOrientation = true;
+        s.GalleryButtons = 1;
+        s.OrientationElement = 10;
+        s.GmAPIKey = QStringLiteral("0123456789");
         return *this;
     }
     QJsonObject toolbar() { return controls::buildToolbar(actions, input); }
     QJsonArray buttons() { return toolbar().value(QStringLiteral("button")).toArray(); }
 };
 
-// The button with "id" `key`, or with "type" `key` for the arrow and zoom buttons.
-inline QJsonObject findButton(const QJsonArray &buttons, const QString &key)
+// The button by its "id" ("typeN" for the arrow and zoom buttons); empty when there is none.
+inline QJsonObject findButton(const QJsonArray &buttons, const QString &name)
 {
-    for (const QJsonValue &value : buttons) {
-        const QJsonObject button = value.toObject();
-        if (button.value(QStringLiteral("id")).toString() == key
-            || QString::number(button.value(QStringLiteral("type")).toInt(-1)) == key)
-            return button;
-    }
-    return QJsonObject();
-}
-
-// Ids (or "type N") of the buttons, blank-separated.
-inline QString buttonNames(const QJsonArray &buttons)
-{
-    QStringList names;
-    for (const QJsonValue &value : buttons) {
-        const QJsonObject button = value.toObject();
-        names << (button.contains(QStringLiteral("id"))
-                ? button.value(QStringLiteral("id")).toString()
-                : QStringLiteral("type")
-                    + QString::number(button.value(QStringLiteral("type")).toInt()));
-    }
-    return names.join(QLatin1Char(' '));
+    return buttons.at(idList(buttons).indexOf(name)).toObject();
 }
 
 } // namespace vantora::test

@@ -96,6 +96,47 @@ inline QString expected(const char *json)
     return compact(document.array().first());
 }
 
+// Every member of `expected` has the same value in `actual`, texts compared exactly (nested objects
+// alike; null: the member is absent); with `exact` `actual` has no other member.
+inline void compareMembers(
+    const QJsonObject &actual, const QJsonObject &expected, bool exact = false)
+{
+    QVERIFY2(!expected.isEmpty(), "empty or unparsable expectation");
+    const auto text = [](const QString &key,
+                          const QJsonValue &value) { // the key tells which differs
+        return key + QLatin1String(": ") + (value.isString() ? value.toString() : compact(value));
+    };
+    for (auto it = expected.begin(); it != expected.end(); ++it) {
+        const QJsonValue value = actual.value(it.key());
+        if (it->isObject() && value.isObject())
+            compareMembers(value.toObject(), it->toObject(), exact);
+        else
+            VANTORA_COMPARE_TEXT(
+                text(it.key(), value), text(it.key(), it->isNull() ? QJsonValue::Undefined : *it));
+    }
+    for (const QString &key : actual.keys())
+        QVERIFY2(!exact || expected.contains(key), qPrintable(QLatin1String("unexpected ") + key));
+}
+inline void compareMembers(const QJsonObject &actual, const char *json, bool exact = false)
+{
+    compareMembers(actual, QJsonDocument::fromJson(json).object(), exact);
+}
+
+// The objects' "id" members ("typeN" for a button with a "type" instead), in order.
+inline QStringList idList(const QJsonArray &objects)
+{
+    QStringList list;
+    for (const QJsonValue &o : objects)
+        list << (o[QLatin1String("id")].isString()
+                ? o[QLatin1String("id")].toString()
+                : QStringLiteral("type%1").arg(o[QLatin1String("type")].toInt()));
+    return list;
+}
+inline QString ids(const QJsonArray &objects)
+{
+    return idList(objects).join(QLatin1Char(' '));
+}
+
 // One data row per table entry, carrying its index; the entry names the row by its `tag`.
 template <typename Row, std::size_t N> void addRows(const Row (&rows)[N])
 {

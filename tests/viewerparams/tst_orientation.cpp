@@ -12,30 +12,33 @@ using namespace vantora;
 
 namespace {
 
-// What the settings dialog offers, in its order: what is drawn, how large; 0 for the toolbar.
-struct KindRow
-{
-    const char *tag;
-    const char *type;
-    int size;
+// clang-format off
+// The kinds the settings dialog offers, in its order: what is drawn, how large (0: in the
+// toolbar), and the tiles of "defaultCompass" for the fixed and the turning layer.
+struct Kind { const char *type; int size; const char *tile, *turningTile; };
+const char FACE[] = "0,0,128,128", NEEDLE[] = "128,0,128,128", SCALE[] = "256,0,128,128", INDEX[] = "384,0,128,128", DISC[] = "0,128,128,128";
+const Kind KINDS[] = {
+    {"compass", 60, FACE, NEEDLE}, {"compass", 96, FACE, NEEDLE}, {"compass", 48, FACE, NEEDLE}, {"compass", 32, "128,128,64,64", "192,128,64,64"},
+    {"dial", 60, INDEX, SCALE},    {"dial", 96, INDEX, SCALE},    {"dial", 48, INDEX, SCALE},
+    {"radar", 60, DISC, nullptr},  {"radar", 96, DISC, nullptr},  {"radar", 48, DISC, nullptr},
+    {"compass", 0, FACE, NEEDLE},  {"radar", 0, DISC, nullptr},
 };
-const KindRow KINDS[] = {
-    {"compass, medium", "compass", 60},
-    {"compass, large", "compass", 96},
-    {"compass, small", "compass", 48},
-    {"compass, compact", "compass", 32},
-    {"dial, medium", "dial", 60},
-    {"dial, large", "dial", 96},
-    {"dial, small", "dial", 48},
-    {"radar, medium", "radar", 60},
-    {"radar, large", "radar", 96},
-    {"radar, small", "radar", 48},
-    {"compass in the toolbar", "compass", 0},
-    {"radar in the toolbar", "radar", 0},
+// By design: the shadow and tint of the toolbar icons, and where a toolbar item draws (x, y, size).
+struct Look { const char *shadow, *tint; int x, y, size; };
+const char DROP[] = "shadow(3,0,0,rgba(0,0,0,1));", LIGHT[] = "shadow(1,0,-1,rgba(255,255,255,0.3));";
+const Look LOOKS[] = {
+    {DROP, "", 0, 0, 28}, {"shadow(3,2,2,rgba(0,0,0,1));", "", 0, 0, 28}, {LIGHT, ",#444", 5, 2, 24}, {LIGHT, ",#444", 5, 2, 24},
+    {DROP, "", 5, 5, 24}, {LIGHT, "", 5, 2, 24}, {"", "", 5, 5, 24}, {DROP, "", 0, 0, 28},
 };
 const char *const ALIGNS[] = {"lefttop", "left", "right"};
+// In the controls root: whether an "orientation" array over the picture and an item at toolbar
+// index 2 are written.
+struct Case { bool add; int kind; bool toolbar, element, toolbarItem; };
+const Case CASES[] = {{false, 0, true, false, false}, {true, 0, true, true, false}, {true, 9, false, true, false}, {true, 10, true, false, true},
+    {true, 11, true, false, true}, {true, 11, false, false, false}, {false, 10, true, false, false}, {true, 12, true, false, false}};
+// clang-format on
 
-settings::ViewerSettings orientationSettings(int kind, int position, bool north)
+settings::ViewerSettings orientationSettings(int kind, int position = 0, bool north = false)
 {
     settings::ViewerSettings s;
     s.AddOrientation = true;
@@ -45,20 +48,10 @@ settings::ViewerSettings orientationSettings(int kind, int position, bool north)
     return s;
 }
 
-// Every element and toolbar item of one design, all kinds and positions, north turn on.
-QJsonObject allOfDesign(int design)
+QJsonObject element(int design, const settings::ViewerSettings &s)
 {
-    QJsonArray elements, buttons, actions;
-    for (int kind = 0; kind < 12; ++kind)
-        for (int position = 0; position < 3; ++position) {
-            const auto s = orientationSettings(kind, position, true);
-            const QJsonObject element = params::buildOrientationElement(actions, design, s);
-            if (!element.isEmpty())
-                elements.append(element);
-            if (position == 0)
-                params::appendOrientationToolbarItems(buttons, actions, design, s);
-        }
-    return {{"orientation", elements}, {"button", buttons}, {"actions", actions}};
+    QJsonArray actions;
+    return params::buildOrientationElement(actions, design, s);
 }
 
 } // namespace
@@ -68,114 +61,112 @@ class tst_Orientation : public QObject
     Q_OBJECT
 
 private slots:
-    void kinds_data() { test::addRows(KINDS); }
+    void kinds_data();
     void kinds();
-    void designLook();
-    void turnToNorth();
-    void controlsRoot();
     void everyScriptParses();
+    void edges();
+    void controlsRoot();
+
+private:
+    QTemporaryDir m_dir;
+    QStringList m_files;
+    int m_functions = 0;
 };
+
+void tst_Orientation::kinds_data()
+{
+    QTest::addColumn<int>("kind");
+    for (int kind = 0; kind < 12; ++kind)
+        QTest::addRow("kind %d: %s %d", kind, KINDS[kind].type, KINDS[kind].size) << kind;
+}
 
 void tst_Orientation::kinds()
 {
-    QFETCH(int, row);
-    const KindRow &r = KINDS[row];
+    // Every design and position with the north turn, written for the Node.js check below.
+    QFETCH(int, kind);
+    const Kind &k = KINDS[kind];
+    QJsonArray elements, buttons, actions;
     for (int design = 0; design < 8; ++design) {
+        const Look &l = LOOKS[design];
+        const int size = k.size ? k.size : l.size;
+        const auto skin = [&](const char *tile) {
+            const QString box = k.size ? QString("0,0") : QString("%1,%2").arg(l.x).arg(l.y);
+            return tile ? QJsonValue(QString(l.shadow) + "copy(defaultCompass," + tile + ',' + box
+                       + QString(",%1,%1").arg(size) + l.tint + ')')
+                        : QJsonValue();
+        };
         for (int position = 0; position < 3; ++position) {
-            QJsonArray actions, buttons;
-            const auto s = orientationSettings(row, position, false);
-            const QJsonObject element = params::buildOrientationElement(actions, design, s);
-            params::appendOrientationToolbarItems(buttons, actions, design, s);
-            QVERIFY(actions.isEmpty());
-            const QJsonObject object = r.size ? element : buttons.at(0).toObject();
-            QCOMPARE(r.size ? buttons.size() : int(!element.isEmpty()), 0);
-            QCOMPARE(object.value("id").toString(), QString("compass"));
-            QCOMPARE(object.value("type").toString(), QLatin1String(r.type));
-            QCOMPARE(object.value("visible"), QJsonValue(false));
-            QVERIFY(object.value("skin").toString().contains("copy(defaultCompass,"));
-            QCOMPARE(object.contains("rotatingskin"), r.type != QString("radar"));
-            QCOMPARE(object.contains("radarcontext"), r.type == QString("radar"));
-            QVERIFY(!object.contains("onclick"));
-            if (r.size) {
-                QCOMPARE(object.value("width").toInt(), r.size);
-                QCOMPARE(object.value("height").toInt(), r.size);
-                QCOMPARE(object.value("align").toString(), QLatin1String(ALIGNS[position]));
-                QVERIFY(
-                    object.value("skin").toString().contains(QString(",0,0,%1,%1").arg(r.size)));
-                QVERIFY(!object.contains("index"));
-            } else {
-                QCOMPARE(object.value("index").toInt(), 2);
-                QCOMPARE(object.value("align").toString(), QString("left"));
-                QVERIFY(!object.contains("width"));
-            }
+            QJsonArray own, items;
+            const auto s = orientationSettings(kind, position, true);
+            const QJsonObject element = params::buildOrientationElement(own, design, s);
+            params::appendOrientationToolbarItems(items, own, design, s);
+            QCOMPARE(items.size(), k.size ? 0 : 1);
+            QCOMPARE(element.isEmpty(), !k.size);
+            const QJsonObject object = k.size ? element : items.at(0).toObject();
+            test::compareMembers(object,
+                {{"id", "compass"}, {"type", k.type}, {"visible", false}, {"skin", skin(k.tile)},
+                    {"rotatingskin", skin(k.turningTile)}, {"xoff", 8},
+                    {"onclick", "function(){ this.viewer.action('turnToNorth'); }"}});
+            test::compareMembers(object,
+                k.size ? QJsonObject {{"width", size}, {"height", size}, {"index", QJsonValue()},
+                    {"align", ALIGNS[position]}, {"yoff", position ? 0 : 8}}
+                       : QJsonObject {{"align", "left"}, {"index", 2}, {"priority", 1}, {"yoff", 0},
+                           {"width", QJsonValue()}, {"style", QJsonValue()}});
+            if (QTest::currentTestFailed())
+                return;
+            QCOMPARE(object.value("radarcontext").isString(), !k.turningTile);
+            QVERIFY(!k.size || object.value("style").toString().endsWith(" cursor: pointer;"));
+            QCOMPARE(test::ids(own), "turnToNorth");
+            QVERIFY(own.at(0)["func"].toString().contains("panTo(l.north,"));
+            (k.size ? elements : buttons).append(object);
+            actions.append(own.at(0));
         }
     }
+    m_files << QString("%1/kind%2.json").arg(m_dir.path()).arg(kind);
+    QVERIFY(params::writeViewerParamsFile(m_files.last(),
+        {{"orientation", elements}, {"button", buttons}, {"actions", actions}},
+        params::Layout::Plain));
+    // 24 objects with two visibility handlers and a click handler each, a radar's canvas
+    // function, and one action each.
+    m_functions += 24 * (k.turningTile ? 4 : 5);
 }
 
-void tst_Orientation::designLook()
+void tst_Orientation::everyScriptParses()
 {
-    // The drawings take the shadow, tint and icon box of the design's toolbar icons.
-    QJsonArray actions, buttons;
-    const auto corner = orientationSettings(0, 0, false);
-    QCOMPARE(params::buildOrientationElement(actions, 2, corner).value("skin").toString(),
-        QString(
-            "shadow(1,0,-1,rgba(255,255,255,0.3));copy(defaultCompass,0,0,128,128,0,0,60,60,#444)"));
-    QCOMPARE(params::buildOrientationElement(actions, 6, corner).value("rotatingskin").toString(),
-        QString("copy(defaultCompass,128,0,128,128,0,0,60,60)"));
-    params::appendOrientationToolbarItems(buttons, actions, 4, orientationSettings(10, 0, false));
-    QCOMPARE(buttons.at(0).toObject().value("skin").toString(),
-        QString("shadow(3,0,0,rgba(0,0,0,1));copy(defaultCompass,0,0,128,128,5,5,24,24)"));
-    // A design out of range looks like the nearest one; the compact compass has no frame.
-    QCOMPARE(params::buildOrientationElement(actions, 9, corner).value("style"),
-        params::buildOrientationElement(actions, 7, corner).value("style"));
-    QCOMPARE(params::buildOrientationElement(actions, 0, orientationSettings(3, 0, false))
-                 .value("style")
-                 .toString(),
-        QString("background: none;"));
-    // Unknown kinds and positions: nothing, or the corner.
-    QVERIFY(
-        params::buildOrientationElement(actions, 0, orientationSettings(12, 0, false)).isEmpty());
-    QVERIFY(
-        params::buildOrientationElement(actions, 0, orientationSettings(-1, 0, false)).isEmpty());
-    QCOMPARE(params::buildOrientationElement(actions, 0, orientationSettings(0, 7, false))
-                 .value("align")
-                 .toString(),
-        QString("lefttop"));
-    QVERIFY(actions.isEmpty());
+    // The files kinds() wrote, in one run of Node.js.
+    if (m_files.isEmpty())
+        QSKIP("kinds() wrote no file");
+    const test::ScriptCheck check = test::checkScripts(m_files);
+    VANTORA_VERIFY_SCRIPTS(check);
+    QVERIFY2(check.counted(m_files.size(), m_functions), check.output.constData());
 }
 
-void tst_Orientation::turnToNorth()
+void tst_Orientation::edges()
 {
-    QJsonArray actions;
-    const QJsonObject element
-        = params::buildOrientationElement(actions, 0, orientationSettings(8, 2, true));
-    QCOMPARE(element.value("onclick").toString(),
-        QString("function(){ this.viewer.action('turnToNorth'); }"));
-    QVERIFY(element.value("style").toString().endsWith(" cursor: pointer;"));
-    QCOMPARE(actions.size(), 1);
-    QCOMPARE(actions.at(0).toObject().value("id").toString(), QString("turnToNorth"));
-    QVERIFY(actions.at(0).toObject().value("func").toString().contains("panTo(l.north,"));
+    // Without the north turn no click handler and no action.
+    QJsonArray actions, items;
+    QVERIFY(
+        !params::buildOrientationElement(actions, 0, orientationSettings(7)).contains("onclick"));
+    params::appendOrientationToolbarItems(items, actions, 0, orientationSettings(10));
+    QVERIFY(actions.isEmpty() && !items.at(0)["onclick"].isString());
+    // A design out of range looks like the nearest one; an unknown position is the corner.
+    QCOMPARE(element(9, orientationSettings(0)), element(7, orientationSettings(0)));
+    QCOMPARE(element(-1, orientationSettings(1)), element(0, orientationSettings(1)));
+    QCOMPARE(element(0, orientationSettings(0, 7)), element(0, orientationSettings(0)));
+    // Unknown kinds write nothing; the compact compass has no frame.
+    QVERIFY(element(0, orientationSettings(12)).isEmpty());
+    QVERIFY(element(0, orientationSettings(-1)).isEmpty());
+    QCOMPARE(element(4, orientationSettings(3)).value("style").toString(), "background: none;");
 }
 
 void tst_Orientation::controlsRoot()
 {
-    struct Case
-    {
-        bool add;
-        int kind;
-        bool toolbar;
-        bool element;     // an "orientation" array over the picture
-        bool toolbarItem; // an item at toolbar index 2
-    };
-    for (const Case c : {Case {false, 0, true, false, false}, Case {true, 0, true, true, false},
-             Case {true, 9, false, true, false}, Case {true, 10, true, false, true},
-             Case {true, 11, true, false, true}, Case {true, 11, false, false, false},
-             Case {false, 10, true, false, false}, Case {true, 12, true, false, false}}) {
+    for (const Case c : CASES) {
         settings::ViewerSettings s;
         s.AddOrientation = c.add;
         s.OrientationElement = c.kind;
-        s.PositionNorth = true;
         s.AddToolbar = c.toolbar;
+        s.PositionNorth = true;
         params::ControlsInput input;
         input.settings = &s;
         QJsonArray actions;
@@ -186,28 +177,10 @@ void tst_Orientation::controlsRoot()
             atIndex2 += button["index"].toInt() == 2;
         QCOMPARE(atIndex2, int(c.toolbarItem));
         // The north turn is an action like the toolbar's: before the message actions.
-        QStringList ids;
-        for (const QJsonValue action : actions)
-            ids << action["id"].toString();
+        const QStringList ids = test::idList(actions);
         QCOMPARE(ids.count("turnToNorth"), int(c.element || c.toolbarItem));
         QVERIFY(ids.indexOf("turnToNorth") < ids.indexOf("showMessage"));
     }
-}
-
-void tst_Orientation::everyScriptParses()
-{
-    QTemporaryDir dir;
-    QStringList files;
-    for (int design = 0; design < 8; ++design) {
-        files << QString("%1/design%2.json").arg(dir.path()).arg(design);
-        QVERIFY(params::writeViewerParamsFile(
-            files.last(), allOfDesign(design), params::Layout::Plain));
-    }
-    const test::ScriptCheck check = test::checkScripts(files);
-    VANTORA_VERIFY_SCRIPTS(check);
-    // 30 elements and 2 toolbar items per design: two visibility handlers and a click handler
-    // each, one action per element, and the canvas function of each of the 10 radars.
-    QVERIFY2(check.counted(8, 8 * (32 * 4 + 10)), check.output.constData());
 }
 
 QTEST_MAIN(tst_Orientation)
