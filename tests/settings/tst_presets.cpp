@@ -9,9 +9,11 @@
 #include <memory>
 
 using namespace vantora::settings;
+using vantora::test::readFileBytes;
 
 namespace {
 
+// The text as the system writes an INI file: UTF-16LE with its byte-order mark, CR LF line ends.
 QByteArray utf16File(QString text)
 {
     text.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
@@ -23,13 +25,24 @@ QByteArray utf16File(QString text)
 
 QString dataFile(const char *name)
 {
-    return QStringLiteral(VANTORA_TEST_DATA "/ini/") + QLatin1String(name);
+    return VANTORA_TEST_DATA "/ini/" + QString::fromLatin1(name);
 }
 
 bool writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+// The value of a preset key as text: numbers and flags in decimal, texts as they stand.
+QString valueOf(const PresetValues &values, const QString &key)
+{
+    QVariant value = "<no key " + key + ">";
+    forEachPresetField([&](const char *name, PresetField field) {
+        if (key == QLatin1String(name))
+            std::visit([&](auto member) { value = QVariant::fromValue(values.*member); }, field);
+    });
+    return value.type() == QVariant::Bool ? QString::number(value.toInt()) : value.toString();
 }
 
 } // namespace
@@ -50,47 +63,38 @@ private slots:
     // A missing preset reads as the documented defaults; written back, they give this file.
     void defaultsAreWrittenInTableOrder()
     {
-        const PresetValues defaults = readPresetFile(m_settings, QStringLiteral("none"));
-        QVERIFY(writePresetFile(m_settings, QStringLiteral("Standard"), defaults));
-        const QByteArray expected = utf16File(
-            QString::fromUtf8(vantora::test::readFileBytes(dataFile("default_preset.txt"))));
-        const QByteArray written = vantora::test::readFileBytes(
-            m_settings + QStringLiteral("appletSettings/Standard.ini"));
-        VANTORA_COMPARE_TEXT(
-            QString::fromUtf16(
-                reinterpret_cast<const char16_t *>(written.constData()), written.size() / 2),
-            QString::fromUtf16(
-                reinterpret_cast<const char16_t *>(expected.constData()), expected.size() / 2));
-        QCOMPARE(written, expected);
+        QVERIFY(writePresetFile(m_settings, "Standard", readPresetFile(m_settings, "none")));
+        const QByteArray written = readFileBytes(m_settings + "appletSettings/Standard.ini");
+        const QString expected = QString::fromUtf8(readFileBytes(dataFile("default_preset.txt")));
+        VANTORA_COMPARE_TEXT(QString::fromUtf16(reinterpret_cast<const char16_t *>(written.data()),
+                                 written.size() / 2),
+            QString(expected).replace("\n", "\r\n")); // the mark is read, not kept
+        QCOMPARE(written, utf16File(expected));
     }
 
     // A preset with every key away from its default, as the system writes it (UTF-16LE): read and
     // written again it comes out byte for byte the same.
     void everyKeyRoundTrips()
     {
-        const QByteArray original
-            = vantora::test::readFileBytes(dataFile("changed_preset_utf16.ini"));
-        QVERIFY(writeFile(m_settings + QStringLiteral("source.ini"), original));
-        const PresetValues values = readPresetValues(m_settings + QStringLiteral("source.ini"));
-        QVERIFY(values != readPresetValues(QString()));
-        QCOMPARE(values.Title64, QStringLiteral("Gipfel über Zürich"));
-        QCOMPARE(values.Sound, QStringLiteral("C:\\Ton\\wind 😀.mp3"));
+        const QByteArray original = readFileBytes(dataFile("changed_preset_utf16.ini"));
+        QVERIFY(writeFile(m_settings + "source.ini", original));
+        const PresetValues values = readPresetValues(m_settings + "source.ini");
+        QCOMPARE(values.Title64, "Gipfel über Zürich");
+        QCOMPARE(values.Sound, "C:\\Ton\\wind 😀.mp3");
         QCOMPARE(values.PanRate, -4.25);
         QCOMPARE(values.ShadowColor, 8421504u);
-        QVERIFY(writePresetFile(m_settings, QStringLiteral("copy"), values));
-        QCOMPARE(
-            vantora::test::readFileBytes(m_settings + QStringLiteral("appletSettings/copy.ini")),
-            original);
-        QVERIFY(readPresetFile(m_settings, QStringLiteral("copy")) == values);
+        QVERIFY(writePresetFile(m_settings, "copy", values));
+        QCOMPARE(readFileBytes(m_settings + "appletSettings/copy.ini"), original);
+        QVERIFY(readPresetFile(m_settings, "copy") == values);
     }
 
     void readRules_data()
     {
-        QTest::addColumn<QString>("lines"); // the [Applet] section's keys
-        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("lines"); // the [Applet] section's keys unless a section is named
+        QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("expected");
         // clang-format off
-        const struct { const char *name, *lines, *field, *expected; } rows[] = {
+        const struct { const char *name, *lines, *key, *expected; } rows[] = {
             {"bool TRUEX",                  "ShowInfoBox=TRUEX",      "ShowInfoBox",  "1"},
             {"bool true (lower case)",      "ShowInfoBox=true",       "ShowInfoBox",  "0"},
             {"bool 10",                     "ShowInfoBox=10",         "ShowInfoBox",  "1"},
@@ -112,6 +116,8 @@ private slots:
             {"ZoomMode 5",                  "ZoomMode=5",             "ZoomMode",     "0"},
             {"negative mode is kept",       "MouseMode=-1",           "MouseMode",    "-1"},
             {"OrientationElement: no clamp", "OrientationElement=12", "OrientationElement", "12"},
+            {"Position in [Toolbar], clamped", "[Applet]\nPosition=2\n[Toolbar]\nPosition=4", "Position", "0"},
+            {"Position, names in any case", "[toolbar]\nposition=3",  "Position",     "3"},
             {"Restart missing",             "",                       "Restart",      "5"},
             {"PanRate missing",             "",                       "PanRate",      "2"},
             {"PanRate empty",               "PanRate=",               "PanRate",      "2"},
@@ -132,56 +138,28 @@ private slots:
         // clang-format on
         for (const auto &r : rows)
             QTest::addRow("%s", r.name)
-                << QString::fromUtf8(r.lines) << QString::fromLatin1(r.field)
-                << QString::fromUtf8(r.expected);
+                << QString(r.lines) << QString(r.key) << QString(r.expected);
     }
     void readRules()
     {
         QFETCH(QString, lines);
-        QFETCH(QString, field);
+        QFETCH(QString, key);
         QFETCH(QString, expected);
-        const QString path = m_settings + QStringLiteral("rules.ini");
-        QVERIFY(
-            writeFile(path, utf16File(QStringLiteral("[Applet]\n") + lines + QLatin1Char('\n'))));
-        const PresetValues v = readPresetValues(path);
-        // clang-format off
-        const QMap<QString, QString> read {
-            {"ShowInfoBox", QString::number(v.ShowInfoBox)}, {"ShowHotspots", QString::number(v.ShowHotspots)},
-            {"MapZoom", QString::number(v.MapZoom)}, {"MapType", QString::number(v.MapType)},
-            {"VrDisplayType", QString::number(v.VrDisplayType)}, {"GalleryButtons", QString::number(v.GalleryButtons)},
-            {"GalleryPosition", QString::number(v.GalleryPosition)}, {"MapPosition", QString::number(v.MapPosition)},
-            {"MouseMode", QString::number(v.MouseMode)}, {"TouchMode", QString::number(v.TouchMode)},
-            {"ZoomMode", QString::number(v.ZoomMode)}, {"OrientationElement", QString::number(v.OrientationElement)},
-            {"Restart", QString::number(v.Restart)}, {"PanRate", QString::number(v.PanRate)},
-            {"TextColor", QString::number(v.TextColor)}, {"AddGyro", QString::number(v.AddGyro)},
-            {"GyroButton", QString::number(v.GyroButton)}, {"GyroEnabled", QString::number(v.GyroEnabled)},
-            {"Title64", v.Title64}, {"InfoHTML64", v.InfoHTML64}, {"Sound", v.Sound},
-        };
-        // clang-format on
-        QVERIFY(read.contains(field));
-        QCOMPARE(read.value(field), expected);
-    }
-
-    // Position sits in [Toolbar]: its clamp and the section together.
-    void positionClamp()
-    {
-        const QString path = m_settings + QStringLiteral("p.ini");
-        QVERIFY(writeFile(
-            path, utf16File(QStringLiteral("[Applet]\nPosition=2\n[Toolbar]\nPosition=4\n"))));
-        QCOMPARE(readPresetValues(path).Position, 0);
-        QVERIFY(writeFile(path, utf16File(QStringLiteral("[toolbar]\nposition=3\n"))));
-        QCOMPARE(readPresetValues(path).Position, 3);
+        const QString path = m_settings + "rules.ini";
+        const QString section = lines.startsWith('[') ? QString() : QStringLiteral("[Applet]\n");
+        QVERIFY(writeFile(path, utf16File(section + lines + '\n')));
+        QCOMPARE(valueOf(readPresetValues(path), key), expected);
     }
 
     // An 8-bit preset of an older version: read as it stands; saving over it converts it keeping
     // its first line only, as the product always has.
     void legacyAnsiPreset()
     {
-        QVERIFY(QDir().mkpath(m_settings + QStringLiteral("appletSettings")));
-        const QString path = presetFilePath(m_settings, QStringLiteral("alt"));
+        QVERIFY(QDir().mkpath(m_settings + "appletSettings"));
+        const QString path = presetFilePath(m_settings, "alt");
         QVERIFY(QFile::copy(dataFile("legacy_ansi.ini"), path));
-        const PresetValues v = readPresetFile(m_settings, QStringLiteral("alt"));
-        QCOMPARE(v.Title64, QStringLiteral("Grün"));
+        const PresetValues v = readPresetFile(m_settings, "alt");
+        QCOMPARE(v.Title64, "Grün");
         QCOMPARE(v.Position, 1);
         QVERIFY(v.AddGyro && v.GyroButton && !v.GyroEnabled);
         QCOMPARE(v.MapZoom, 20);
@@ -190,50 +168,45 @@ private slots:
         // its first line, so they fall back to their defaults, while the legacy Title is gone.
         PresetValues changed = v;
         changed.Position = 2;
-        changed.Title64 = QStringLiteral("Neu");
-        QVERIFY(writePresetFile(m_settings, QStringLiteral("alt"), changed));
-        const PresetValues reread = readPresetFile(m_settings, QStringLiteral("alt"));
+        changed.Title64 = "Neu";
+        QVERIFY(writePresetFile(m_settings, "alt", changed));
+        const PresetValues reread = readPresetFile(m_settings, "alt");
         QCOMPARE(reread.Position, 0);
-        QCOMPARE(reread.Title64, QStringLiteral("Neu"));
+        QCOMPARE(reread.Title64, "Neu");
         QCOMPARE(reread.MapZoom, 20);
-        QVERIFY(vantora::test::readFileBytes(path).startsWith(
-            utf16File(QStringLiteral("[Toolbar]\n[Applet]\n"))));
+        QVERIFY(readFileBytes(path).startsWith(utf16File("[Toolbar]\n[Applet]\n")));
     }
 
     void namesAndFiles()
     {
         PresetValues values = readPresetFile(m_settings, QString());
         values.TBDesign = 4;
-        QVERIFY(writePresetFile(m_settings, QStringLiteral("a/b\\c"), values));
-        QVERIFY(QFileInfo(m_settings + QStringLiteral("appletSettings/a_b_c.ini")).isFile());
-        QVERIFY(presetExists(m_settings, QStringLiteral("a_b_c")));
-        QCOMPARE(readPresetFile(m_settings, QStringLiteral("a/b/c")).TBDesign, 4);
+        QVERIFY(writePresetFile(m_settings, "a/b\\c", values));
+        QVERIFY(QFileInfo(m_settings + "appletSettings/a_b_c.ini").isFile());
+        QVERIFY(presetExists(m_settings, "a_b_c"));
+        QCOMPARE(readPresetFile(m_settings, "a/b/c").TBDesign, 4);
 
         for (const char *name : {"zeta.ini", "Alpha.ini", "beta.INI", "notes.txt", "ini"})
-            QVERIFY(writeFile(
-                m_settings + QStringLiteral("appletSettings/") + QLatin1String(name), ""));
-        QVERIFY(QDir().mkpath(m_settings + QStringLiteral("appletSettings/folder.ini")));
-        QCOMPARE(presetNames(m_settings),
-            QStringList({QStringLiteral("a_b_c"), QStringLiteral("Alpha"), QStringLiteral("beta"),
-                QStringLiteral("zeta")}));
+            QVERIFY(writeFile(m_settings + "appletSettings/" + name, ""));
+        QVERIFY(QDir().mkpath(m_settings + "appletSettings/folder.ini"));
+        QCOMPARE(presetNames(m_settings), QStringList({"a_b_c", "Alpha", "beta", "zeta"}));
 
-        QVERIFY(deletePresetFile(m_settings, QStringLiteral("a/b\\c")));
-        QVERIFY(!deletePresetFile(m_settings, QStringLiteral("a_b_c")));
-        QVERIFY(!presetNames(m_settings).contains(QStringLiteral("a_b_c")));
+        QVERIFY(deletePresetFile(m_settings, "a/b\\c"));
+        QVERIFY(!deletePresetFile(m_settings, "a_b_c"));
+        QVERIFY(!presetNames(m_settings).contains("a_b_c"));
     }
 
     void presetFolderIsMade()
     {
         // A plain file in the folder's place gives way; a file in the settings folder's place
         // cannot, and the save fails.
-        QVERIFY(writeFile(m_settings + QStringLiteral("appletSettings"), "in the way"));
-        QVERIFY(writePresetFile(m_settings, QStringLiteral("x"), PresetValues()));
-        QVERIFY(presetExists(m_settings, QStringLiteral("x")));
+        QVERIFY(writeFile(m_settings + "appletSettings", "in the way"));
+        QVERIFY(writePresetFile(m_settings, "x", PresetValues()));
+        QVERIFY(presetExists(m_settings, "x"));
 
-        const QString blocked = m_settings + QStringLiteral("file/");
-        QVERIFY(writeFile(m_settings + QStringLiteral("file"), "a file"));
-        QVERIFY(!writePresetFile(blocked, QStringLiteral("x"), PresetValues()));
-        QVERIFY(!writePresetFile(QString(), QStringLiteral("x"), PresetValues()));
+        QVERIFY(writeFile(m_settings + "file", "a file"));
+        QVERIFY(!writePresetFile(m_settings + "file/", "x", PresetValues()));
+        QVERIFY(!writePresetFile(QString(), "x", PresetValues()));
         QCOMPARE(presetNames(QString()), QStringList());
     }
 
@@ -241,20 +214,17 @@ private slots:
     {
         QTest::addColumn<QString>("key");
         QTest::addColumn<bool>("stored");
-        QTest::addRow("9 characters") << QStringLiteral("123456789") << false;
-        QTest::addRow("10 characters") << QStringLiteral("1234567890") << true;
-        QTest::addRow("long, non-ASCII") << QStringLiteral("AIzaSyÄ-key_0123") << true;
+        QTest::addRow("9 characters") << "123456789" << false;
+        QTest::addRow("10 characters") << "1234567890" << true;
+        QTest::addRow("long, non-ASCII") << "AIzaSyÄ-key_0123" << true;
     }
     void mapsApiKey()
     {
         QFETCH(QString, key);
         QFETCH(bool, stored);
         QCOMPARE(storeMapsApiKey(m_settings, key), stored);
-        const QByteArray bytes
-            = vantora::test::readFileBytes(m_settings + QStringLiteral("Vantora.INI"));
-        QCOMPARE(bytes,
-            stored ? utf16File(QStringLiteral("[Maps]\nGAPIKey=") + key + QLatin1Char('\n'))
-                   : QByteArray());
+        QCOMPARE(readFileBytes(m_settings + "Vantora.INI"),
+            stored ? utf16File("[Maps]\nGAPIKey=" + key + '\n') : QByteArray());
         QCOMPARE(readMapsApiKey(m_settings), stored ? key : QString());
         QVERIFY(!storeMapsApiKey(QString(), key));
         QCOMPARE(readMapsApiKey(QString()), QString());

@@ -14,9 +14,9 @@ using namespace vantora::settings;
 
 namespace {
 
-QByteArray blockFile(const char *name)
+QByteArray blockFile(const QString &name)
 {
-    return vantora::test::readFileBytes(QStringLiteral(VANTORA_TEST_DATA "/blocks/") + name);
+    return vantora::test::readFileBytes(VANTORA_TEST_DATA "/blocks/" + name);
 }
 
 const unsigned char *bytesOf(const QByteArray &block)
@@ -36,7 +36,6 @@ QStringList names(const QList<const char *> &fields)
     QStringList list;
     for (const char *field : fields)
         list << QString::fromLatin1(field);
-    list.sort();
     return list;
 }
 
@@ -65,10 +64,37 @@ ViewerSettings everyFieldChanged()
     return s;
 }
 
-// The fields each version brought, against the reset record; a block of version v with every
-// field away from its default differs in the fields of all versions up to v. Version 1 also
-// changes GyroButton (it follows AddGyro), GalleryPosition (1 before version 5) and
-// ContextMenuItems (emptied before version 3).
+// What the version-12 marker block holds (see tests/data/blocks/makeblocks.py): every flag
+// flipped, these numbers and texts, and three menu entries.
+// clang-format off
+const QVariantMap MARKERS {
+    {"TextColor", 0x123456}, {"ShadowColor", 0x654321}, {"MouseMode", 0}, {"TouchMode", 0},
+    {"Position", 3}, {"TBDesign", 7}, {"Restart", 42}, {"GalleryButtons", 2}, {"GalleryPosition", 2},
+    {"OrientationElement", 9}, {"OrientationElementPosition", 2}, {"MapPosition", 1}, {"MapType", 3},
+    {"MapZoom", 7}, {"VrDisplayType", 1}, {"ZoomMode", 1},
+    {"PanRate", -3.5}, {"TiltRate", 1.25}, {"ZoomRate", 0.5},
+    {"Title64", "Gipfel über Zürich"}, {"LogoFile", "logo.png"}, {"LogoImage", "C:\\Bilder\\logo.png"},
+    {"LogoURL", "https://example.org/"}, {"Sound", "C:\\Ton\\wind.mp3"}, {"SoundFile", "wind.mp3"},
+    {"InfoHTML64", "<b>Info</b> €"}, {"ShortDescription64", "Kurz"}, {"GmAPIKey", "AIzaMarkerKey"},
+};
+// clang-format on
+ViewerSettings markers()
+{
+    ViewerSettings s = defaults();
+    forEachField([&s](const char *name, auto member) {
+        using T = std::remove_reference_t<decltype(s.*member)>;
+        if constexpr (std::is_same_v<T, bool>)
+            s.*member = !(s.*member);
+        else if constexpr (!std::is_same_v<T, QList<ContextMenuItem>>)
+            s.*member = MARKERS.value(QLatin1String(name), "missing").value<T>();
+    });
+    s.ContextMenuItems = {{7, QStringLiteral("Über uns"), QStringLiteral("alert('ä');")},
+        {0, QString(), QString()}, {5, QString(), QString()}};
+    return s;
+}
+
+// The fields each version brought. Version 1 also sets GyroButton (it follows AddGyro),
+// GalleryPosition (1 before version 5) and ContextMenuItems (emptied before version 3).
 // clang-format off
 const struct { int since; const char *fields; } VERSION_FIELDS[] = {
     {1,  "TextColor ShadowColor MouseMode TouchMode Position TBDesign Restart PanRate TiltRate "
@@ -89,42 +115,23 @@ const struct { int since; const char *fields; } VERSION_FIELDS[] = {
 };
 // clang-format on
 
-// What the version-12 marker block holds (see tests/data/blocks/makeblocks.py).
-ViewerSettings markers()
+// The marker block of `version` restored: the markers of the fields it has, defaults elsewhere.
+ViewerSettings markersOf(int version)
 {
+    QStringList present;
+    for (const auto &group : VERSION_FIELDS)
+        if (group.since <= version)
+            present << QString::fromLatin1(group.fields).split(' ');
+    const ViewerSettings m = markers();
     ViewerSettings s = defaults();
-    forEachField([&s](const char *, auto member) {
-        if constexpr (std::is_same_v<std::remove_reference_t<decltype(s.*member)>, bool>)
-            s.*member = !(s.*member);
+    forEachField([&](const char *name, auto member) {
+        if (present.contains(QLatin1String(name)))
+            s.*member = m.*member;
     });
-    s.TextColor = 0x123456;
-    s.ShadowColor = 0x654321;
-    s.MouseMode = s.TouchMode = 0;
-    s.Position = 3;
-    s.TBDesign = 7;
-    s.Restart = 42;
-    s.GalleryButtons = s.GalleryPosition = 2;
-    s.OrientationElement = 9;
-    s.OrientationElementPosition = 2;
-    s.MapPosition = 1;
-    s.MapType = 3;
-    s.MapZoom = 7;
-    s.VrDisplayType = 1;
-    s.ZoomMode = 1;
-    s.PanRate = -3.5;
-    s.TiltRate = 1.25;
-    s.ZoomRate = 0.5;
-    s.Title64 = QStringLiteral("Gipfel über Zürich");
-    s.LogoFile = QStringLiteral("logo.png");
-    s.LogoImage = QStringLiteral("C:\\Bilder\\logo.png");
-    s.LogoURL = QStringLiteral("https://example.org/");
-    s.Sound = QStringLiteral("C:\\Ton\\wind.mp3");
-    s.SoundFile = QStringLiteral("wind.mp3");
-    s.InfoHTML64 = QStringLiteral("<b>Info</b> €");
-    s.ShortDescription64 = QStringLiteral("Kurz");
-    s.GmAPIKey = QStringLiteral("AIzaMarkerKey");
-    s.ContextMenuItems = {{7, QStringLiteral("Über uns"), QStringLiteral("alert('ä');")},
-        {0, QString(), QString()}, {5, QString(), QString()}};
+    if (version < 5)
+        s.GalleryPosition = 1;
+    if (version < 3)
+        s.ContextMenuItems.clear();
     return s;
 }
 
@@ -142,11 +149,15 @@ class tst_SettingsBlock : public QObject
 private slots:
     void init() { vantora::plugin::resetPluginStateForTests(); }
 
-    void defaultRecordGivesTheHandBuiltBlock()
+    // A fresh record and one with every field changed both reset to the hand-built block.
+    void resetRecordGivesTheHandBuiltBlock()
     {
         const QByteArray expected = blockFile("default_v12.bin");
         QCOMPARE(expected.size(), 273);
+        ViewerSettings changed = everyFieldChanged();
+        resetViewerSettings(changed, false);
         QCOMPARE(encodeSettingsBlock(defaults()).toHex(), expected.toHex());
+        QCOMPARE(encodeSettingsBlock(changed).toHex(), expected.toHex());
     }
 
     void everyFieldSurvivesARoundTrip()
@@ -155,13 +166,13 @@ private slots:
         QCOMPARE(differingFields(changed, defaults()).size(), 64);
         const QByteArray block = encodeSettingsBlock(changed);
 
-        // 133 fixed bytes, 11 strings with their lengths, 12 bytes and two texts per menu entry.
-        int expectedSize = 133;
-        for (const QString *text : {&changed.Title64, &changed.LogoFile, &changed.LogoImage,
-                 &changed.LogoURL, &changed.Sound, &changed.SoundFile, &changed.InfoHTML64,
-                 &changed.ShortDescription64, &changed.GmAPIKey})
-            expectedSize += 4 + text->toUtf8().size();
-        expectedSize += 2 * 4;
+        // 133 fixed bytes, 11 strings (two reserved ones empty) with their lengths, 12 bytes and
+        // two texts per menu entry.
+        int expectedSize = 133 + 2 * 4;
+        for (const QString &text : {changed.Title64, changed.LogoFile, changed.LogoImage,
+                 changed.LogoURL, changed.Sound, changed.SoundFile, changed.InfoHTML64,
+                 changed.ShortDescription64, changed.GmAPIKey})
+            expectedSize += 4 + text.toUtf8().size();
         for (const ContextMenuItem &item : changed.ContextMenuItems)
             expectedSize += 12 + item.caption.toUtf8().size() + item.action.toUtf8().size();
         QCOMPARE(block.size(), expectedSize);
@@ -181,31 +192,11 @@ private slots:
     void everyVersionRestores()
     {
         QFETCH(int, version);
-        const QByteArray block
-            = blockFile(qPrintable(QStringLiteral("markers_v%1.bin").arg(version)));
+        const QByteArray block = blockFile(QStringLiteral("markers_v%1.bin").arg(version));
         QVERIFY(!block.isEmpty());
         ViewerSettings restored = defaults();
         QVERIFY(decodeSettingsBlock(bytesOf(block), restored));
-
-        QStringList expected;
-        for (const auto &group : VERSION_FIELDS)
-            if (group.since <= version)
-                expected << QString::fromLatin1(group.fields).split(QLatin1Char(' '));
-        expected.sort();
-        QCOMPARE(names(differingFields(restored, defaults())), expected);
-
-        const ViewerSettings m = markers();
-        QCOMPARE(restored.Title64, m.Title64);
-        QCOMPARE(restored.InfoHTML64, m.InfoHTML64);
-        QCOMPARE(restored.PanRate, m.PanRate);
-        QCOMPARE(restored.GalleryPosition, version < 5 ? 1 : 2);
-        QCOMPARE(restored.GyroButton, restored.AddGyro);
-        QCOMPARE(
-            restored.ContextMenuItems, version < 3 ? QList<ContextMenuItem>() : m.ContextMenuItems);
-        QCOMPARE(restored.ShortDescription64, version < 5 ? QString() : m.ShortDescription64);
-        QCOMPARE(restored.GmAPIKey, version < 9 ? QString() : m.GmAPIKey);
-        if (version == 12)
-            QCOMPARE(names(differingFields(restored, m)), QStringList());
+        QCOMPARE(names(differingFields(restored, markersOf(version))), QStringList());
 
         // One byte less than the block needs: nothing of it is taken.
         QByteArray truncated = block;
@@ -217,10 +208,11 @@ private slots:
 
     void lyingBlocksLeaveTheDefaults_data()
     {
-        QTest::addColumn<int>("offset");
+        QTest::addColumn<int>("offset"); // -1: no block at all
         QTest::addColumn<quint32>("value");
         QTest::addColumn<bool>("restored");
         const quint32 size = quint32(blockFile("markers_v12.bin").size());
+        QTest::addRow("null block") << -1 << 0u << false;
         QTest::addRow("size word zero") << 0 << 0u << false;
         QTest::addRow("size word below the header") << 0 << 7u << false;
         QTest::addRow("size word covers the header only") << 0 << 8u << false;
@@ -242,23 +234,16 @@ private slots:
         QFETCH(bool, restored);
         // Sixteen spare bytes behind the block, so that only the size word decides.
         QByteArray block = blockFile("markers_v12.bin") + QByteArray(16, '\x5A');
-        putU32(block, offset, value);
+        if (offset >= 0)
+            putU32(block, offset, value);
         ViewerSettings &record = viewerSettings();
         record.TBDesign = 5;
+        record.Title64 = "stale";
         vantora::plugin::pluginState().settingsRestored = true;
 
-        restoreViewerSettings(bytesOf(block));
+        restoreViewerSettings(offset < 0 ? nullptr : bytesOf(block));
         QCOMPARE(vantora::plugin::pluginState().settingsRestored, restored);
         QCOMPARE(names(differingFields(record, restored ? markers() : defaults())), QStringList());
-    }
-
-    void nullBlockLeavesTheDefaults()
-    {
-        viewerSettings().Title64 = QStringLiteral("stale");
-        vantora::plugin::pluginState().settingsRestored = true;
-        restoreViewerSettings(nullptr);
-        QVERIFY(!vantora::plugin::pluginState().settingsRestored);
-        QVERIFY(viewerSettings() == defaults());
     }
 };
 

@@ -16,7 +16,7 @@ QStringList resourceCalls; // "resource -> target"
 
 uint32_t recordResource(const char16_t *resourcePath, const char16_t *targetPath)
 {
-    resourceCalls << QString::fromStdU16String(resourcePath) + QStringLiteral(" -> ")
+    resourceCalls << QString::fromStdU16String(resourcePath) + " -> "
             + QString::fromStdU16String(targetPath);
     return 1;
 }
@@ -24,7 +24,7 @@ uint32_t recordResource(const char16_t *resourcePath, const char16_t *targetPath
 const QJsonArray hotspotsOf(Export &run)
 {
     run.host.exportResource = recordResource;
-    return run.node().value(QStringLiteral("hotspot")).toArray();
+    return run.node().value("hotspot").toArray();
 }
 
 // clang-format off
@@ -131,9 +131,8 @@ private slots:
         record.transparency = entry.transparency;
         record.hoverTransparency = entry.hoverTransparency;
         QJsonObject hotspot = hotspotsOf(run)[0].toObject();
-        if (hotspot.contains(QStringLiteral("hsinfo")))
-            hotspot.insert(QStringLiteral("hsinfo"),
-                hotspot.value(QStringLiteral("hsinfo"))[QStringLiteral("id")]);
+        if (hotspot.contains("hsinfo"))
+            hotspot.insert("hsinfo", hotspot.value("hsinfo")["id"]);
         VANTORA_COMPARE_TEXT(test::compact(hotspot), test::expected(entry.expected));
     }
 
@@ -152,8 +151,8 @@ private slots:
         record.delay = entry.delay;
         record.iterations = entry.iterations;
         record.frameOffset = entry.frameOffset;
-        VANTORA_COMPARE_TEXT(test::compact(hotspotsOf(run)[0][QStringLiteral("animation")]),
-            test::expected(entry.expected));
+        VANTORA_COMPARE_TEXT(
+            test::compact(hotspotsOf(run)[0]["animation"]), test::expected(entry.expected));
     }
 
     void panTilt_data() { test::addRows(PAN_TILT_ROWS); }
@@ -181,20 +180,18 @@ private slots:
         run.add(13, nullptr, 0.5, 0.25);
         run.add(6);
         const QJsonObject node = run.node();
-        QJsonArray flares = node.value(QStringLiteral("lensflare")).toArray();
-        for (QJsonValueRef flare : flares) {
+        QJsonArray flares; // tilts rounded to six decimals
+        for (const QJsonValue flare : node.value("lensflare").toArray()) {
             QJsonObject object = flare.toObject();
-            object.insert(QStringLiteral("tilt"),
-                std::round(object.value(QStringLiteral("tilt")).toDouble() * 1e6) / 1e6);
-            flare = object;
+            object["tilt"] = std::round(object["tilt"].toDouble() * 1e6) / 1e6;
+            flares << object;
         }
         VANTORA_COMPARE_TEXT(test::compact(flares),
             test::expected(R"([{"pan":90,"tilt":26.565051,"type":0,"brightening":1,"scale":1},)"
                            R"({"pan":180,"tilt":-26.565051,"type":6,"brightening":1,"scale":1}])"));
-        const QJsonArray hotspots = node.value(QStringLiteral("hotspot")).toArray();
+        const QJsonArray hotspots = node.value("hotspot").toArray();
         QCOMPARE(hotspots.size(), 1);
-        QCOMPARE(
-            hotspots[0][QStringLiteral("position")].toString(), QStringLiteral("270.0000,11.3099"));
+        QCOMPARE(hotspots[0]["position"].toString(), "270.0000,11.3099");
     }
 
     // Null entries do not count; lens flares, other kinds and dropped hotspots do.
@@ -215,43 +212,38 @@ private slots:
         info(run.add(14, u":/anim.png"), "Vier"); // 5
         QStringList summary;
         for (const QJsonValue hotspot : hotspotsOf(run))
-            summary << hotspot[QStringLiteral("bitmap")].toString()
-                    + hotspot[QStringLiteral("hsinfo")][QStringLiteral("id")].toString();
-        QCOMPARE(summary.join(QLatin1Char(' ')),
-            QStringLiteral("pap_arrow.pnghsinfo2 pap_anim.pnghsinfo5"));
-        QCOMPARE(resourceCalls.join(QLatin1Char(' ')).replace(run.folder(), QStringLiteral("OUT/")),
-            QStringLiteral(
-                ":/hotspots/arrow.png -> OUT/pap_arrow.png :/anim.png -> OUT/pap_anim.png"));
+            summary << hotspot["bitmap"].toString() + hotspot["hsinfo"]["id"].toString();
+        QCOMPARE(summary.join(' '), "pap_arrow.pnghsinfo2 pap_anim.pnghsinfo5");
+        QCOMPARE(resourceCalls.join(' ').replace(run.folder(), "OUT/"),
+            ":/hotspots/arrow.png -> OUT/pap_arrow.png :/anim.png -> OUT/pap_anim.png");
     }
 
     // A file bitmap replaces an older copy and is made writable; a failed copy keeps the name.
     void fileBitmaps()
     {
         QTemporaryDir source;
-        const QString original = source.filePath(QStringLiteral("mark.png"));
+        const QString original = source.filePath("mark.png");
         QFile file(original);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("new bitmap") == 10);
         file.close();
         QVERIFY(QFile::setPermissions(original, QFileDevice::ReadOwner));
         for (const QChar separator : {QLatin1Char('/'), QLatin1Char('\\')}) {
             Export run;
-            const QString target = run.folder() + QStringLiteral("mark.png");
+            const QString target = run.folder() + "mark.png";
             QFile old(target);
             QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
             old.close();
             const std::u16string copied
                 = QString(original).replace(QLatin1Char('/'), separator).toStdU16String();
-            const std::u16string missing
-                = source.filePath(QStringLiteral("no/ghost.png")).toStdU16String();
+            const std::u16string missing = source.filePath("no/ghost.png").toStdU16String();
             run.add(0, copied.c_str());
             run.add(0, missing.c_str());
             const QJsonArray hotspots = hotspotsOf(run);
-            QCOMPARE(hotspots[0][QStringLiteral("bitmap")].toString()
-                    + hotspots[1][QStringLiteral("bitmap")].toString(),
-                QStringLiteral("mark.pngghost.png"));
+            QCOMPARE(hotspots[0]["bitmap"].toString() + hotspots[1]["bitmap"].toString(),
+                "mark.pngghost.png");
             QCOMPARE(test::readFileBytes(target), QByteArray("new bitmap"));
             QVERIFY(QFileInfo(target).permissions() & QFileDevice::WriteOwner);
-            QVERIFY(!QFileInfo::exists(run.folder() + QStringLiteral("ghost.png")));
+            QVERIFY(!QFileInfo::exists(run.folder() + "ghost.png"));
             QVERIFY(resourceCalls.isEmpty());
         }
         QFile::setPermissions(original, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
