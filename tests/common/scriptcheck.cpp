@@ -1,5 +1,8 @@
 #include "scriptcheck.h"
 
+#include "textcompare.h"
+
+#include <QJsonDocument>
 #include <QProcess>
 
 namespace vantora::test {
@@ -25,6 +28,15 @@ ScriptCheck checkScripts(const QStringList &files)
     check.output = node.readAll();
     check.passed = node.exitStatus() == QProcess::NormalExit && node.exitCode() == 0;
     return check;
+}
+
+QJsonObject viewerRoot(const QString &path)
+{
+    const QByteArray bytes = readFileBytes(path), prefix = "VantoraViewerParams = ";
+    const QJsonObject document = QJsonDocument::fromJson(bytes.mid(prefix.size())).object();
+    if (!bytes.startsWith(prefix) || document.size() != 1)
+        return QJsonObject();
+    return document.value(QStringLiteral("vantoraViewer")).toObject();
 }
 
 } // namespace vantora::test

@@ -1,7 +1,9 @@
-// Runs written viewer files through Node.js the way a page loads them (tests/js/checkjs.mjs).
+// Runs written viewer files through Node.js the way a page loads them (tests/js/checkjs.mjs), and
+// reads one as JSON.
 #pragma once
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QStringList>
 
 namespace vantora::test {
@@ -15,6 +17,10 @@ struct ScriptCheck
 };
 
 ScriptCheck checkScripts(const QStringList &files);
+
+// The "vantoraViewer" object of a viewer file; empty unless the file is "VantoraViewerParams = "
+// followed by a JSON object with that one member.
+QJsonObject viewerRoot(const QString &path);
 
 } // namespace vantora::test
 

@@ -41,4 +41,10 @@ QByteArray readFileBytes(const QString &path)
     return file.readAll();
 }
 
+bool writeFileBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
 } // namespace vantora::test

@@ -1,4 +1,5 @@
-// Exact-text comparison that shows where two long texts part, with blanks made visible.
+// Exact-text comparison that shows where two long texts part, with blanks made visible; the
+// files the texts come from.
 #pragma once
 
 #include <QByteArray>
@@ -12,6 +13,8 @@ QString describeTextDifference(const QString &actual, const QString &expected);
 
 // The file's bytes; an empty array when it cannot be read.
 QByteArray readFileBytes(const QString &path);
+// Replaces the file's content by `bytes`; whether all of them were written.
+bool writeFileBytes(const QString &path, const QByteArray &bytes);
 
 } // namespace vantora::test
 

@@ -1,6 +1,6 @@
-// What the boundary cannot show: restore flags, settings reset, scale memory, the export plan.
+// What the boundary cannot show: the reset's host, unusable restores, the scale memory, and a
+// preparation whose dialog is cancelled.
 #include "plugin/commands.h"
-#include "plugin/defaultview.h"
 #include "plugin/pluginstate.h"
 #include "settings/settingsblock.h"
 #include "settings/viewersettings.h"
@@ -8,6 +8,7 @@
 #include <QtTest>
 
 using namespace vantora::plugin;
+using vantora::settings::viewerSettings;
 
 namespace {
 
@@ -17,8 +18,6 @@ std::uint64_t run(std::uint32_t command, HostContext &host, std::uint64_t in = 0
     runCommand(command, &host, &word);
     return word;
 }
-
-int closeCalls = 0;
 
 } // namespace
 
@@ -30,50 +29,22 @@ private slots:
     void init() { resetPluginStateForTests(); }
     void cleanup() { resetPluginStateForTests(); }
 
+    // The gyroscope defaults come from the host of the command that resets.
     void preparationResetsSettings()
     {
         HostContext host {};
         host.gyroCapable = 1;
-        vantora::settings::viewerSettings().TBDesign = 5;
-        run(VANTORA_PREPARE, host);
-        QCOMPARE(vantora::settings::viewerSettings().TBDesign, 0);
-        QVERIFY(vantora::settings::viewerSettings().AddGyro);
-        QCOMPARE(vantora::settings::viewerSettings().ContextMenuItems.size(), 8);
-    }
-
-    // Command 6 restores before command 0, which keeps the settings and clears the flag; command
-    // 2 hands out a block of them and keeps it, command 3 frees it and leaves the word alone.
-    void settingsBlockCommands()
-    {
-        using namespace vantora::settings;
-        HostContext host {};
-        ViewerSettings custom;
-        resetViewerSettings(custom, false);
-        custom.TBDesign = 6;
-        custom.Title64 = QStringLiteral("Süd");
-        const QByteArray given = encodeSettingsBlock(custom);
-        run(VANTORA_RESTORE_SETTINGS, host, std::uintptr_t(given.constData()));
-        QVERIFY(pluginState().settingsRestored);
-        run(VANTORA_PREPARE, host);
-        QVERIFY(!pluginState().settingsRestored);
-        QCOMPARE(viewerSettings().TBDesign, 6);
-
-        const std::uint64_t address = run(VANTORA_SAVE_SETTINGS, host);
-        QCOMPARE(address, std::uint64_t(std::uintptr_t(pluginState().settingsBlock)));
-        const auto *block = reinterpret_cast<const char *>(std::uintptr_t(address));
-        QCOMPARE(QByteArray(block, given.size()), given);
-        QCOMPARE(run(VANTORA_FREE_SETTINGS, host, 5), 5u);
-        QVERIFY(!pluginState().settingsBlock);
-
-        // The next export without a restore starts from the defaults.
+        viewerSettings().TBDesign = 5;
         run(VANTORA_PREPARE, host);
         QCOMPARE(viewerSettings().TBDesign, 0);
+        QVERIFY(viewerSettings().AddGyro && viewerSettings().GyroButton);
+        QCOMPARE(viewerSettings().ContextMenuItems.size(), 8);
     }
 
     void unusableRestoreLeavesTheDefaults_data()
     {
         QTest::addColumn<bool>("wordPointer");
-        QTest::addColumn<int>("version");
+        QTest::addColumn<int>("version"); // -2: a null block address
         QTest::addColumn<int>("expectedDesign");
         QTest::addRow("no in/out word: nothing happens") << false << 12 << 4;
         QTest::addRow("null block") << true << -2 << 0;
@@ -85,14 +56,13 @@ private slots:
         QFETCH(int, version);
         QFETCH(int, expectedDesign);
         HostContext host {};
-        vantora::settings::viewerSettings().TBDesign = 4;
-        QByteArray block
-            = vantora::settings::encodeSettingsBlock(vantora::settings::viewerSettings());
+        viewerSettings().TBDesign = 4;
+        QByteArray block = vantora::settings::encodeSettingsBlock(viewerSettings());
         qToLittleEndian(qint32(version), block.data() + 4);
         std::uint64_t word = version == -2 ? 0 : std::uintptr_t(block.constData());
         runCommand(VANTORA_RESTORE_SETTINGS, &host, wordPointer ? &word : nullptr);
         QVERIFY(!pluginState().settingsRestored);
-        QCOMPARE(vantora::settings::viewerSettings().TBDesign, expectedDesign);
+        QCOMPARE(viewerSettings().TBDesign, expectedDesign);
     }
 
     void scaleIsKeptForTheSameDocumentOnly_data()
@@ -111,7 +81,6 @@ private slots:
         QFETCH(quint64, document);
         QFETCH(quint32, width);
         QFETCH(quint32, height);
-        QFETCH(quint32, expectedScale);
         HostContext host {};
         host.documentId = 7;
         host.imageWidth = 8000;
@@ -119,39 +88,20 @@ private slots:
         run(VANTORA_PREPARE, host);
         QCOMPARE(exportJob().scale, 100u);
         // What the main dialog does when the user picks 40 %.
-        exportJob().scale = 40;
-        pluginState().storedScale = 40;
+        exportJob().scale = pluginState().storedScale = 40;
 
         host.documentId = document;
         host.imageWidth = width;
         host.imageHeight = height;
         run(VANTORA_PREPARE, host);
-        QCOMPARE(exportJob().scale, expectedScale);
+        QTEST(exportJob().scale, "expectedScale");
         QCOMPARE(exportJob().outputWidth, width);
         QCOMPARE(exportJob().imageHeight, height);
     }
 
-    void nonInteractivePreparationTakesTheHostPath()
-    {
-        HostContext host {};
-        char16_t path[512] = u"/tmp/out dir\\tour.html";
-        char16_t output[512] = u"stale";
-        host.pathBuffer = path;
-        host.outputPath = output;
-        host.nonInteractive = 1;
-        QCOMPARE(run(VANTORA_PREPARE, host, 99), 0u);
-        const ExportJob &job = exportJob();
-        QVERIFY(job.prepared);
-        QCOMPARE(job.targetPath, QStringLiteral("/tmp/out dir\\tour.html"));
-        QCOMPARE(job.baseName, QStringLiteral("tour"));
-        QCOMPARE(job.viewerFolder, QStringLiteral("/tmp/out dir/"));
-        QCOMPARE(job.userFolder, job.viewerFolder);
-        QCOMPARE(job.imageFolder, job.viewerFolder);
-        QCOMPARE(QString::fromUtf16(path), QString()); // emptied for the host
-        QCOMPARE(QString::fromUtf16(output), QStringLiteral("/tmp/out dir\\tour.html"));
-    }
-
-    void interactivePreparationWithoutDialogIsCancelled()
+    // Until the user picks a target, an interactive preparation ends as if cancelled: the path
+    // buffer is emptied and the next command 1 writes nothing.
+    void cancelledPreparation()
     {
         HostContext host {};
         char16_t path[64] = u"/tmp/x.html";
@@ -160,15 +110,6 @@ private slots:
         QVERIFY(!exportJob().prepared);
         QCOMPARE(QString::fromUtf16(path), QString());
         QCOMPARE(run(VANTORA_WRITE, host, 77), 0u);
-    }
-
-    void writeWithoutPreparationDoesNothing()
-    {
-        HostContext host {};
-        closeCalls = 0;
-        host.close = [](HostContext *) { ++closeCalls; };
-        QCOMPARE(run(VANTORA_WRITE, host, 77), 0u);
-        QCOMPARE(closeCalls, 0);
     }
 };
 

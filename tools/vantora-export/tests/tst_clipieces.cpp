@@ -34,110 +34,94 @@ class tst_CliPieces : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pyramidLevels_data();
-    void pyramidLevels();
-    void frameFor_data();
-    void frameFor();
-    void fillLocation_data();
-    void fillLocation();
+    void pyramidLevels_data()
+    {
+        QTest::addColumn<QSize>("picture");
+        QTest::addColumn<QByteArray>("levels"); // smallest first, as the viewer loads them
+        QTest::addRow("one tile") << QSize(512, 512) << QByteArray("512x512");
+        QTest::addRow("one pixel") << QSize(1, 1) << QByteArray("1x1");
+        QTest::addRow("one pixel too wide") << QSize(513, 200) << QByteArray("257x100 513x200");
+        // Odd sizes round up, so that the last column and row survive every halving.
+        QTest::addRow("odd") << QSize(3001, 1499)
+                             << QByteArray("376x188 751x375 1501x750 3001x1499");
+        QTest::addRow("sample") << QSize(8192, 4096)
+                                << QByteArray("512x256 1024x512 2048x1024 4096x2048 8192x4096");
+        QTest::addRow("tall") << QSize(300, 2000) << QByteArray("75x500 150x1000 300x2000");
+    }
+    void pyramidLevels()
+    {
+        QFETCH(QSize, picture);
+        QByteArrayList actual;
+        for (const PyramidLevel &level :
+            vantora::cli::pyramidLevels(picture.width(), picture.height()))
+            actual.append(QByteArray::number(level.width) + 'x' + QByteArray::number(level.height));
+        QTEST(actual.join(' '), "levels");
+    }
+
+    void frameFor_data()
+    {
+        QTest::addColumn<QSize>("picture");
+        QTest::addColumn<double>("hextentGiven"); // 0: not given
+        QTest::addColumn<double>("vextentGiven");
+        QTest::addColumn<QSizeF>("extents"); // hextent x vextent
+        QTest::addRow("2:1 full sphere") << QSize(4000, 2000) << 0.0 << 0.0 << QSizeF(360, 180);
+        QTest::addRow("6:1 strip") << QSize(6000, 1000) << 0.0 << 0.0 << QSizeF(360, 60);
+        QTest::addRow("3:2 narrower than a sphere")
+            << QSize(3000, 2000) << 0.0 << 0.0 << QSizeF(270, 180);
+        QTest::addRow("hextent only") << QSize(3000, 1000) << 90.0 << 0.0 << QSizeF(90, 30);
+        QTest::addRow("hextent only, capped")
+            << QSize(1000, 1000) << 360.0 << 0.0 << QSizeF(360, 180);
+        QTest::addRow("vextent only, capped")
+            << QSize(8000, 1000) << 0.0 << 60.0 << QSizeF(360, 60);
+        QTest::addRow("both") << QSize(1000, 1000) << 100.0 << 50.0 << QSizeF(100, 50);
+    }
+    void frameFor()
+    {
+        QFETCH(QSize, picture);
+        QFETCH(double, hextentGiven);
+        QFETCH(double, vextentGiven);
+        auto given
+            = [](double value) { return value > 0 ? std::optional<double>(value) : std::nullopt; };
+        const PageFrame frame = vantora::cli::frameFor(
+            picture.width(), picture.height(), false, given(hextentGiven), given(vextentGiven));
+        QTEST(QSizeF(frame.hextent, frame.vextent), "extents");
+    }
+
+    void fillLocation_data()
+    {
+        QTest::addColumn<bool>("hasPosition");
+        QTest::addColumn<double>("north"); // negative: unknown
+        QTest::addColumn<bool>("forMap");
+        QTest::addColumn<bool>("forOrientation");
+        QTest::addColumn<QByteArray>("json");
+        QTest::addRow("map and compass") << true << 12.5 << true << true
+                                         << QByteArray(R"({"lat":48.1,"lng":-11.25,"north":12.5})");
+        QTest::addRow("map only") << true << 12.5 << true << false
+                                  << QByteArray(R"({"lat":48.1,"lng":-11.25})");
+        QTest::addRow("compass only")
+            << true << 12.5 << false << true << QByteArray(R"({"north":12.5})");
+        QTest::addRow("north unknown")
+            << true << -1.0 << true << true << QByteArray(R"({"lat":48.1,"lng":-11.25})");
+        QTest::addRow("only north known")
+            << false << 180.0 << true << true << QByteArray(R"({"north":180})");
+    }
+    void fillLocation()
+    {
+        QFETCH(bool, hasPosition);
+        QFETCH(double, north);
+        QFETCH(bool, forMap);
+        QFETCH(bool, forOrientation);
+        Location location;
+        location.hasPosition = hasPosition;
+        location.latitude = 48.1;
+        location.longitude = -11.25;
+        if (north >= 0)
+            location.north = north;
+        VantoraJsonObject object;
+        vantora::cli::fillLocation(location, &object, setMember, forMap, forOrientation);
+        QTEST(QJsonDocument(object.object).toJson(QJsonDocument::Compact), "json");
+    }
 };
-
-void tst_CliPieces::pyramidLevels_data()
-{
-    QTest::addColumn<QSize>("picture");
-    QTest::addColumn<QString>("levels"); // smallest first, as the viewer loads them
-
-    QTest::addRow("one tile") << QSize(512, 512) << QStringLiteral("512x512");
-    QTest::addRow("one pixel") << QSize(1, 1) << QStringLiteral("1x1");
-    QTest::addRow("one pixel too wide") << QSize(513, 200) << QStringLiteral("257x100 513x200");
-    // Odd sizes round up, so that the last column and row survive every halving.
-    QTest::addRow("odd") << QSize(3001, 1499)
-                         << QStringLiteral("376x188 751x375 1501x750 3001x1499");
-    QTest::addRow("sample") << QSize(8192, 4096)
-                            << QStringLiteral("512x256 1024x512 2048x1024 4096x2048 8192x4096");
-    QTest::addRow("tall") << QSize(300, 2000) << QStringLiteral("75x500 150x1000 300x2000");
-}
-
-void tst_CliPieces::pyramidLevels()
-{
-    QFETCH(QSize, picture);
-    QFETCH(QString, levels);
-    QStringList actual;
-    for (const PyramidLevel &level : vantora::cli::pyramidLevels(picture.width(), picture.height()))
-        actual.append(QStringLiteral("%1x%2").arg(level.width).arg(level.height));
-    QCOMPARE(actual.join(QLatin1Char(' ')), levels);
-}
-
-void tst_CliPieces::frameFor_data()
-{
-    QTest::addColumn<QSize>("picture");
-    QTest::addColumn<double>("hextentGiven"); // 0: not given
-    QTest::addColumn<double>("vextentGiven");
-    QTest::addColumn<double>("hextent");
-    QTest::addColumn<double>("vextent");
-
-    QTest::addRow("2:1 full sphere") << QSize(4000, 2000) << 0.0 << 0.0 << 360.0 << 180.0;
-    QTest::addRow("6:1 strip") << QSize(6000, 1000) << 0.0 << 0.0 << 360.0 << 60.0;
-    QTest::addRow("3:2 narrower than a sphere")
-        << QSize(3000, 2000) << 0.0 << 0.0 << 270.0 << 180.0;
-    QTest::addRow("hextent only") << QSize(3000, 1000) << 90.0 << 0.0 << 90.0 << 30.0;
-    QTest::addRow("hextent only, capped") << QSize(1000, 1000) << 360.0 << 0.0 << 360.0 << 180.0;
-    QTest::addRow("vextent only, capped") << QSize(8000, 1000) << 0.0 << 60.0 << 360.0 << 60.0;
-    QTest::addRow("both") << QSize(1000, 1000) << 100.0 << 50.0 << 100.0 << 50.0;
-}
-
-void tst_CliPieces::frameFor()
-{
-    QFETCH(QSize, picture);
-    QFETCH(double, hextentGiven);
-    QFETCH(double, vextentGiven);
-    QFETCH(double, hextent);
-    QFETCH(double, vextent);
-    auto given
-        = [](double value) { return value > 0 ? std::optional<double>(value) : std::nullopt; };
-    const PageFrame frame = vantora::cli::frameFor(
-        picture.width(), picture.height(), false, given(hextentGiven), given(vextentGiven));
-    QCOMPARE(frame.hextent, hextent);
-    QCOMPARE(frame.vextent, vextent);
-}
-
-void tst_CliPieces::fillLocation_data()
-{
-    QTest::addColumn<bool>("hasPosition");
-    QTest::addColumn<double>("north"); // negative: unknown
-    QTest::addColumn<bool>("forMap");
-    QTest::addColumn<bool>("forOrientation");
-    QTest::addColumn<QString>("json");
-
-    QTest::addRow("map and compass") << true << 12.5 << true << true
-                                     << QStringLiteral(R"({"lat":48.1,"lng":-11.25,"north":12.5})");
-    QTest::addRow("map only") << true << 12.5 << true << false
-                              << QStringLiteral(R"({"lat":48.1,"lng":-11.25})");
-    QTest::addRow("compass only") << true << 12.5 << false << true
-                                  << QStringLiteral(R"({"north":12.5})");
-    QTest::addRow("north unknown")
-        << true << -1.0 << true << true << QStringLiteral(R"({"lat":48.1,"lng":-11.25})");
-    QTest::addRow("only north known")
-        << false << 180.0 << true << true << QStringLiteral(R"({"north":180})");
-}
-
-void tst_CliPieces::fillLocation()
-{
-    QFETCH(bool, hasPosition);
-    QFETCH(double, north);
-    QFETCH(bool, forMap);
-    QFETCH(bool, forOrientation);
-    QFETCH(QString, json);
-    Location location;
-    location.hasPosition = hasPosition;
-    location.latitude = 48.1;
-    location.longitude = -11.25;
-    if (north >= 0)
-        location.north = north;
-    VantoraJsonObject object;
-    vantora::cli::fillLocation(location, &object, setMember, forMap, forOrientation);
-    QCOMPARE(QString::fromUtf8(QJsonDocument(object.object).toJson(QJsonDocument::Compact)), json);
-}
 
 QTEST_GUILESS_MAIN(tst_CliPieces)
 #include "tst_clipieces.moc"
