@@ -1,13 +1,9 @@
 #include "buttons.h"
 
+#include "viewerparams/tabletext.h"
+
 namespace vantora::controls {
 namespace {
-
-void insertText(QJsonObject &object, const char *key, const char *text)
-{
-    if (text)
-        object.insert(QLatin1String(key), QLatin1String(text));
-}
 
 QJsonObject specButton(const ButtonSpec &spec, int design)
 {
@@ -20,8 +16,8 @@ QJsonObject specButton(const ButtonSpec &spec, int design)
 
 void writeSpecButton(QJsonObject &button, const ButtonSpec &spec, int design)
 {
-    insertText(button, "id", spec.id);
-    insertText(button, "align", spec.align);
+    params::insertText(button, "id", spec.id);
+    params::insertText(button, "align", spec.align);
     button.insert(QStringLiteral("xoff"), spec.xoff);
     button.insert(QStringLiteral("yoff"), spec.yoff);
     button.insert(QStringLiteral("index"), spec.index);
@@ -30,9 +26,9 @@ void writeSpecButton(QJsonObject &button, const ButtonSpec &spec, int design)
         button.insert(QStringLiteral("visible"), false);
     if (spec.type != 0)
         button.insert(QStringLiteral("type"), spec.type);
-    insertText(button, "onclick", spec.onclick);
-    insertText(button, "oninit", spec.oninit);
-    insertText(button, "onscenechanged", spec.onscenechanged);
+    params::insertText(button, "onclick", spec.onclick);
+    params::insertText(button, "oninit", spec.oninit);
+    params::insertText(button, "onscenechanged", spec.onscenechanged);
     writeFamilySkins(button, design, spec.tile, spec.quirks);
 }
 
@@ -40,7 +36,7 @@ void writeInfoButton(QJsonObject &button, int design, const QString &infoHtml64,
 {
     Q_UNUSED(infoHtml64)
     writeSpecButton(button, INFO_BUTTON, design);
-    insertText(
+    params::insertText(
         button, "onscenechanged", showInfoBox ? INFO_ONSCENECHANGED_SHOW : INFO_ONSCENECHANGED);
 }
 

@@ -2,6 +2,7 @@
 
 #include "skinrule.h"
 #include "toolbartexts.h"
+#include "viewerparams/tabletext.h"
 
 #include <iterator>
 
@@ -54,12 +55,6 @@ constexpr ShowRow SHOW_BUTTON[8] = {
     /* 7 */ {0, 24, 24, -30, 0, HALO_SKIN, HALO_HOVER, HALO_ACTIVE, nullptr, nullptr, nullptr},
 };
 // clang-format on
-
-void insertText(QJsonObject &object, const char *key, const char *text)
-{
-    if (text)
-        object.insert(QLatin1String(key), QLatin1String(text));
-}
 
 bool knownDesign(int design)
 {
@@ -144,16 +139,16 @@ void appendShowTbButton(QJsonArray &buttons, int design, const HideShowContext &
         button.insert(QStringLiteral("height"), row.height);
         button.insert(
             QStringLiteral("yoff"), context.toolbarShown ? row.yoffParked : row.yoffReady);
-        insertText(button, "skin", row.skin);
-        insertText(button, "skinhover", row.skinHover);
-        insertText(button, "skinactive", row.skinActive);
-        insertText(button, "style", row.style);
-        insertText(button, "stylehover", row.styleHover);
-        insertText(button, "styleactive", row.styleActive);
+        params::insertText(button, "skin", row.skin);
+        params::insertText(button, "skinhover", row.skinHover);
+        params::insertText(button, "skinactive", row.skinActive);
+        params::insertText(button, "style", row.style);
+        params::insertText(button, "stylehover", row.styleHover);
+        params::insertText(button, "styleactive", row.styleActive);
         if (design == 0) {
-            insertText(button, "oninit",
+            params::insertText(button, "oninit",
                 context.toolbarShown ? FOLD_SHOW_ONINIT_PARKED : FOLD_SHOW_ONINIT_READY);
-            insertText(button, "style",
+            params::insertText(button, "style",
                 context.toolbarShown ? FOLD_SHOW_STYLE_PARKED : FOLD_SHOW_STYLE_READY);
         }
         button.insert(QStringLiteral("onclick"), showHandler(design, context));

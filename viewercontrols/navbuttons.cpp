@@ -4,6 +4,7 @@
 #include "skinrule.h"
 #include "toolbardesigns.h"
 #include "toolbartexts.h"
+#include "viewerparams/tabletext.h"
 
 #include <iterator>
 
@@ -35,12 +36,6 @@ constexpr EdgeRow EDGE_DESIGNS[] = {
 // clang-format on
 static_assert(std::size(EDGE_DESIGNS) == 8, "one row per toolbar design");
 
-void insertText(QJsonObject &object, const char *key, const char *text)
-{
-    if (text)
-        object.insert(QLatin1String(key), QLatin1String(text));
-}
-
 void insertSkin(QJsonObject &object, const char *key, const char *pattern, Tile tile)
 {
     if (pattern)
@@ -60,9 +55,9 @@ QJsonObject edgeButton(int design, bool next, bool toolbarShown)
     button.insert(QStringLiteral("width"), 28);
     button.insert(QStringLiteral("height"), 28);
     button.insert(QStringLiteral("visible"), false);
-    insertText(button, "onclick", next ? GALLERY_NEXT_ONCLICK : GALLERY_PREVIOUS_ONCLICK);
+    params::insertText(button, "onclick", next ? GALLERY_NEXT_ONCLICK : GALLERY_PREVIOUS_ONCLICK);
     if (design < 0 || design >= int(std::size(EDGE_DESIGNS))) {
-        insertText(button, "oninit", EDGE_ONINIT);
+        params::insertText(button, "oninit", EDGE_ONINIT);
         return button;
     }
 
@@ -72,18 +67,18 @@ QJsonObject edgeButton(int design, bool next, bool toolbarShown)
     insertSkin(button, "skin", row.skin, tile);
     insertSkin(button, "skinhover", row.skinHover, tile);
     insertSkin(button, "skinactive", row.skinActive, tile);
-    insertText(button, "style", row.style);
-    insertText(button, "stylehover", row.styleHover);
-    insertText(button, "styleactive", row.styleActive);
+    params::insertText(button, "style", row.style);
+    params::insertText(button, "stylehover", row.styleHover);
+    params::insertText(button, "styleactive", row.styleActive);
     if (design == 0) {
-        insertText(
+        params::insertText(
             button, "oninit", toolbarShown ? EDGE_FOLD_ONINIT_SHOWN : EDGE_FOLD_ONINIT_HIDDEN);
         const char *style = next
             ? (toolbarShown ? EDGE_FOLD_STYLE_NEXT_SHOWN : EDGE_FOLD_STYLE_NEXT_HIDDEN)
             : (toolbarShown ? EDGE_FOLD_STYLE_PREVIOUS_SHOWN : EDGE_FOLD_STYLE_PREVIOUS_HIDDEN);
-        insertText(button, "style", style);
+        params::insertText(button, "style", style);
     } else {
-        insertText(button, "oninit", EDGE_ONINIT);
+        params::insertText(button, "oninit", EDGE_ONINIT);
     }
     return button;
 }
@@ -107,8 +102,8 @@ void writeToolbarGalleryButton(QJsonObject &button, int design, bool right, int 
     button.insert(QStringLiteral("index"), index);
     button.insert(QStringLiteral("priority"), 2);
     button.insert(QStringLiteral("visible"), false);
-    insertText(button, "onclick", right ? GALLERY_NEXT_ONCLICK : GALLERY_PREVIOUS_ONCLICK);
-    insertText(button, "oninit", TOOLBAR_NAV_ONINIT);
+    params::insertText(button, "onclick", right ? GALLERY_NEXT_ONCLICK : GALLERY_PREVIOUS_ONCLICK);
+    params::insertText(button, "oninit", TOOLBAR_NAV_ONINIT);
     writeFamilySkins(button, design, right ? NEXT_TILE : PREVIOUS_TILE, DoubledDesign4Skin);
 }
 

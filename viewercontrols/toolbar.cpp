@@ -7,6 +7,7 @@
 #include "viewerparams/galleryelement.h"
 #include "viewerparams/mapelement.h"
 #include "viewerparams/orientation.h"
+#include "viewerparams/tabletext.h"
 #include "vrbuttons.h"
 
 namespace vantora::controls {
@@ -72,12 +73,6 @@ QJsonArray toolbarButtons(QJsonArray &actions, const ToolbarInput &input)
     return buttons;
 }
 
-void insertText(QJsonObject &object, const char *key, const char *text)
-{
-    if (text)
-        object.insert(QLatin1String(key), QLatin1String(text));
-}
-
 } // namespace
 
 QJsonObject buildToolbar(QJsonArray &actions, const ToolbarInput &input)
@@ -102,9 +97,9 @@ QJsonObject buildToolbar(QJsonArray &actions, const ToolbarInput &input)
     toolbar.insert(QStringLiteral("style"),
         QLatin1String(fullWidth ? "" : d.maxWidth)
             + QLatin1String(s.ShowToolbar ? d.styleShown : d.styleHidden));
-    insertText(toolbar, "buttonstyle", d.buttonStyle);
-    insertText(toolbar, "buttonstylehover", d.buttonStyleHover);
-    insertText(toolbar, "buttonstyleactive", d.buttonStyleActive);
+    params::insertText(toolbar, "buttonstyle", d.buttonStyle);
+    params::insertText(toolbar, "buttonstylehover", d.buttonStyleHover);
+    params::insertText(toolbar, "buttonstyleactive", d.buttonStyleActive);
     toolbar.insert(QStringLiteral("visible"), true);
     toolbar.insert(QStringLiteral("button"), toolbarButtons(actions, input));
 

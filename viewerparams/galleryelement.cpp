@@ -2,6 +2,7 @@
 
 #include "actions.h"
 #include "elementtexts.h"
+#include "tabletext.h"
 
 #include <iterator>
 
@@ -31,12 +32,6 @@ constexpr ThumbRow THUMB_DESIGNS[] = {
 };
 // clang-format on
 static_assert(std::size(THUMB_DESIGNS) == 8, "one row per toolbar design");
-
-void insertText(QJsonObject &object, const char *key, const char *text)
-{
-    if (text)
-        object.insert(QLatin1String(key), QLatin1String(text));
-}
 
 } // namespace
 
