@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Tours at scale, each figure beside its floor in the same run:
 #  - one export into folders of earlier exports (default 100, 1000 and 10000) against `cat` of the
-#    viewer files the gallery scan lists there, and against the same export into an empty folder
-#    (the scan's share is the difference);
+#    viewer files the gallery scan lists there, and against the same export into an empty folder:
+#    the scan's share is the difference in the library's own time, as the host reports it (the
+#    host's own listing of the folder for its summary is not the scan's);
 #  - whole tours exported in one run of the reference host (default 100, 300 and 1000 panoramas),
 #    whose times should grow with the tour, not with its square.
 # The machine may be shared: every round runs each measurement once, alternating them, and the
@@ -18,8 +19,8 @@ set -euo pipefail
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
 TOOL=${TOOL:-$ROOT/build-release/tools/vantora-export/vantora-export}
 WORK=${1:-$(mktemp -d /tmp/vantora-tours.XXXXXX)}
-FOLDERS=${FOLDERS:-"100 1000 10000"}
-TOURS=${TOURS:-"100 300 1000"}
+FOLDERS=${FOLDERS-"100 1000 10000"}
+TOURS=${TOURS-"100 300 1000"}
 ROUNDS=${ROUNDS:-7}
 TOUR_ROUNDS=${TOUR_ROUNDS:-3}
 mkdir -p "$WORK"
@@ -37,6 +38,14 @@ exportPage() { # FOLDER NAME PICTURE...: one run of the host with the gallery on
   local folder=$1 name=$2
   shift 2
   "$TOOL" --output "$folder/$name.html" --settings "$WORK/gallery.ini" "$@" > /dev/null
+}
+timedExport() { # FOLDER NAME PICTURE...: "wall-ms library-ms" of one run of the host
+  local start end library
+  start=$(date +%s%N)
+  library=$("$TOOL" --output "$1/$2.html" --settings "$WORK/gallery.ini" "${@:3}" |
+    sed -n 's/.*library.s own files \([0-9.]*\) s.*/\1/p')
+  end=$(date +%s%N)
+  awk -v wall=$(((end - start) / 1000000)) -v lib="$library" 'BEGIN { printf "%d %.0f\n", wall, lib * 1000 }'
 }
 milliseconds() { # COMMAND...: wall time of the command in ms
   local start end
@@ -72,54 +81,55 @@ done
 echo "machine: $(nproc) cores, $(awk '/MemTotal/ { printf "%.0f GB", $2 / 1048576 }' /proc/meminfo), $(uname -sr); host: $TOOL"
 echo
 echo "One export into a folder of earlier exports (medians of $ROUNDS rounds, ms)"
-echo "| earlier exports | viewer files | export | same export into an empty folder | scan's share | cat of the viewer files | share / cat |"
-echo "|---|---|---|---|---|---|---|"
+echo "| earlier exports | viewer files | export, wall | into an empty folder, wall | library's own time | into an empty folder | scan's share | cat of the viewer files | share / cat |"
+echo "|---|---|---|---|---|---|---|---|---|"
 for n in $FOLDERS; do
   exportPage "folder$n" current picture.jpg # the folder as every timed export finds it
   : > times
   for ((r = 0; r < ROUNDS; r++)); do
     c=$(milliseconds catViewerFiles "folder$n")
     rm -rf empty
-    e=$(milliseconds exportPage empty current picture.jpg)
-    f=$(milliseconds exportPage "folder$n" current picture.jpg)
+    e=$(timedExport empty current picture.jpg)
+    f=$(timedExport "folder$n" current picture.jpg)
     echo "$c $e $f" >> times
   done
-  cat=$(cut -d' ' -f1 times | median)
-  empty=$(cut -d' ' -f2 times | median)
-  full=$(cut -d' ' -f3 times | median)
   files=$(find "folder$n" -maxdepth 1 -type f \( -iname '*.json' -o -iname '*.jsonp' -o -iname '*.js' \) | wc -l)
-  awk -v n="$n" -v files="$files" -v full="$full" -v empty="$empty" -v cat="$cat" 'BEGIN {
-    share = full - empty
-    printf "| %d | %d | %d | %d | %d | %d | %.2f |\n", n, files, full, empty, share, cat, share / cat }'
+  col() { cut -d' ' -f"$1" times | median; }
+  awk -v n="$n" -v files="$files" -v cat="$(col 1)" -v emptyWall="$(col 2)" -v emptyLib="$(col 3)" \
+    -v fullWall="$(col 4)" -v fullLib="$(col 5)" 'BEGIN {
+    share = fullLib - emptyLib
+    printf "| %d | %d | %d | %d | %d | %d | %d | %d | %.2f |\n", n, files, fullWall, emptyWall,
+      fullLib, emptyLib, share, cat, share / cat }'
 done
-
-echo
-echo "Whole tours in one run of the host (medians of $TOUR_ROUNDS rounds, s)"
-mkdir -p pictures
-maxTour=0
-for t in $TOURS; do ((t > maxTour)) && maxTour=$t; done
-for ((i = 1; i <= maxTour; i++)); do
-  [ -e "pictures/p$(printf %04d $i).jpg" ] || ln picture.jpg "pictures/p$(printf %04d $i).jpg"
-done
-: > tourtimes
-for ((r = 0; r < TOUR_ROUNDS; r++)); do
-  for t in $TOURS; do
-    rm -rf "tour$t"
-    pictures=()
-    for ((i = 1; i <= t; i++)); do pictures+=("pictures/p$(printf %04d $i).jpg"); done
-    echo "$t $(milliseconds exportPage "tour$t" p0001 "${pictures[@]}")" >> tourtimes
+if [ -n "$TOURS" ]; then
+  echo
+  echo "Whole tours in one run of the host (medians of $TOUR_ROUNDS rounds, s)"
+  mkdir -p pictures
+  maxTour=0
+  for t in $TOURS; do ((t > maxTour)) && maxTour=$t; done
+  for ((i = 1; i <= maxTour; i++)); do
+    [ -e "pictures/p$(printf %04d $i).jpg" ] || ln picture.jpg "pictures/p$(printf %04d $i).jpg"
   done
-done
-first=""
-echo "| panoramas | tour | per panorama | against the first tour | panoramas against the first |"
-echo "|---|---|---|---|---|"
-for t in $TOURS; do
-  ms=$(awk -v t="$t" '$1 == t { print $2 }' tourtimes | median)
-  [ -n "$first" ] || { first=$ms; firstT=$t; }
-  awk -v t="$t" -v ms="$ms" -v first="$first" -v firstT="$firstT" 'BEGIN {
-    printf "| %d | %.1f | %.1f ms | %.1fx | %.0fx |\n", t, ms / 1000, ms / t, ms / first, t / firstT }'
-done
-grep -c '"href"' "tour${maxTour}/vantoViewerGallery."* | sed 's/^/gallery entries after the largest tour: /'
+  : > tourtimes
+  for ((r = 0; r < TOUR_ROUNDS; r++)); do
+    for t in $TOURS; do
+      rm -rf "tour$t"
+      pictures=()
+      for ((i = 1; i <= t; i++)); do pictures+=("pictures/p$(printf %04d $i).jpg"); done
+      echo "$t $(milliseconds exportPage "tour$t" p0001 "${pictures[@]}")" >> tourtimes
+    done
+  done
+  first=""
+  echo "| panoramas | tour | per panorama | against the first tour | panoramas against the first |"
+  echo "|---|---|---|---|---|"
+  for t in $TOURS; do
+    ms=$(awk -v t="$t" '$1 == t { print $2 }' tourtimes | median)
+    [ -n "$first" ] || { first=$ms; firstT=$t; }
+    awk -v t="$t" -v ms="$ms" -v first="$first" -v firstT="$firstT" 'BEGIN {
+      printf "| %d | %.1f | %.1f ms | %.1fx | %.0fx |\n", t, ms / 1000, ms / t, ms / first, t / firstT }'
+  done
+  grep -c '"href"' "tour${maxTour}/vantoViewerGallery."* | sed 's/^/gallery entries after the largest tour: /'
+fi
 
 echo
 echo "Peak memory of one export (GNU time, MB)"
@@ -127,12 +137,12 @@ echo "Peak memory of one export (GNU time, MB)"
 # 15 MB of hotspots (read and parsed whole).
 largeParams() { # MEGABYTES FILE
   { printf 'VantoraViewerParams = {\n"vantoraViewer": {\n"node": {"hotspot": ['
-    yes '{"bitmap": "pin.png", "pan": 12.5, "tilt": -3.25},' | head -c $(($1 * 1048576))
+    yes '{"bitmap": "pin.png", "pan": 12.5, "tilt": -3.25},' | head -c $(($1 * 1048576)) || true
     printf '{}]},\n"version": "4.1"\n}\n}'; } > "$2"
 }
 rm -rf big60 big15 empty && mkdir big60 big15
 { printf 'VantoraViewerParams = {\n"vantoraViewer": {\n"version": "4.1",\n"node": {"id": "'
-  head -c 62914560 /dev/zero | tr '\0' ' '
+  head -c 62914560 /dev/zero | tr '\0' ' ' 
   printf '"}\n}\n}'; } > big60/large.json
 largeParams 15 big15/large.json
 echo "| folder | peak RSS |"

@@ -16,47 +16,52 @@ constexpr double MIN_VERSION = 4.0;
 // Text-mode reading: every carriage return goes, wherever it stands.
 void dropCarriageReturns(QByteArray &bytes)
 {
-    const int first = bytes.indexOf('\r');
-    if (first < 0)
+    const char *first
+        = static_cast<const char *>(std::memchr(bytes.constData(), '\r', size_t(bytes.size())));
+    if (!first)
         return;
-    char *data = bytes.data();
-    int kept = first;
-    for (int i = first + 1; i < bytes.size(); ++i)
+    int kept = int(first - bytes.constData());
+    char *data = bytes.data(); // may copy a shared array: offsets only from here on
+    for (int i = kept + 1; i < bytes.size(); ++i)
         if (data[i] != '\r')
             data[kept++] = data[i];
     bytes.truncate(kept);
 }
 
-// Whether the string between `begin` and `end` (quotes excluded) may read "version" once its
+// The longest a string reading "version" can be: every character written as "\uXXXX".
+constexpr std::ptrdiff_t MAX_ESCAPED_VERSION = 7 * 6;
+
+// Whether the string between `begin` and `end` (quotes excluded) reads "version" once its
 // escapes are resolved. The JSON reader resolves an unknown escape to the character itself, so
 // "\v" counts as a "v".
-bool mayReadVersion(const char *begin, const char *end)
+bool readsVersion(const char *begin, const char *end)
 {
-    QByteArray text;
+    if (end - begin < VERSION_KEY.size() || end - begin > MAX_ESCAPED_VERSION)
+        return false;
+    char text[MAX_ESCAPED_VERSION];
+    int length = 0;
     for (const char *at = begin; at < end; ++at) {
-        if (*at != '\\') {
-            text.append(*at);
-            continue;
+        char c = *at;
+        if (c == '\\' && ++at < end) {
+            c = *at;
+            if (c == 'u') {
+                bool ok = false;
+                const uint code
+                    = end - at > 4 ? QByteArray::fromRawData(at + 1, 4).toUInt(&ok, 16) : 0;
+                if (!ok)
+                    return true; // the reader refuses it; leave the judgement to it
+                if (code >= 0x80)
+                    return false; // no letter of "version"
+                c = char(code);
+                at += 4;
+            } else if (const char *named = c ? std::strchr("bfnrt", c) : nullptr) {
+                c = "\b\f\n\r\t"[named - "bfnrt"];
+            }
         }
-        if (++at == end)
-            return true; // cannot happen inside a closed string; be safe
-        if (*at != 'u') {
-            const char *named = std::strchr("bfnrt", *at);
-            text.append(named && *at ? "\b\f\n\r\t"[named - "bfnrt"] : *at);
-            continue;
-        }
-        if (end - at < 5)
-            return true; // the reader refuses it anyway; leave the judgement to it
-        bool ok = false;
-        const uint code = QByteArray(at + 1, 4).toUInt(&ok, 16);
-        if (!ok)
-            return true;
-        if (code >= 0x80)
-            return false; // no letter of "version"
-        text.append(char(code));
-        at += 4;
+        text[length++] = c;
     }
-    return text == VERSION_KEY;
+    return length == VERSION_KEY.size()
+        && std::memcmp(text, VERSION_KEY.constData(), size_t(length)) == 0;
 }
 
 // Whether some string of the JSON text reads "version". Outside strings a quote always opens
@@ -69,24 +74,22 @@ bool mentionsVersion(const char *at, const char *end)
         if (!open)
             return false;
         const char *begin = open + 1;
-        bool escaped = false;
-        at = begin;
-        while (at < end && *at != '"') {
-            if (*at == '\\') {
-                escaped = true;
-                ++at;
-            }
-            ++at;
+        const char *close = begin;
+        for (;;) {
+            close = static_cast<const char *>(std::memchr(close, '"', size_t(end - close)));
+            if (!close)
+                return false; // an unclosed string: the reader refuses the text
+            // A quote behind an odd number of backslashes is part of the string.
+            const char *slashes = close;
+            while (slashes > begin && slashes[-1] == '\\')
+                --slashes;
+            if ((close - slashes) % 2 == 0)
+                break;
+            ++close;
         }
-        if (at >= end)
-            return false; // an unclosed string: the reader refuses the text
-        const bool matches = escaped
-            ? mayReadVersion(begin, at)
-            : (at - begin == VERSION_KEY.size()
-                && std::memcmp(begin, VERSION_KEY.constData(), size_t(VERSION_KEY.size())) == 0);
-        if (matches)
+        if (readsVersion(begin, close))
             return true;
-        ++at;
+        at = close + 1;
     }
     return false;
 }

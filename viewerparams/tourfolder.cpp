@@ -65,21 +65,21 @@ void sortAsListed(std::vector<platform::ListedFile> &files)
     files = std::move(sorted);
 }
 
-// The file's bytes when they may hold a parameter file; an empty array when they cannot.
+// The file's bytes as listed, when they may hold a parameter file; an empty array when they
+// cannot. The listing is the scan's view of the folder: a file that grows after it is read up
+// to its listed size, and its new stamp has it read again at the next scan.
 QByteArray readCandidate(const QString &path, qint64 listedSize)
 {
     QFile file(path);
     if (listedSize > MAX_PARAMS_FILE_BYTES
         || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {};
-    const qint64 asked = std::min(listedSize + 1, HEAD_BYTES);
-    QByteArray bytes = file.read(asked);
-    const bool whole = bytes.size() < asked;
-    if (!mayBeParamsFile(bytes, whole))
+    QByteArray bytes = file.read(std::min(listedSize, HEAD_BYTES));
+    if (!mayBeParamsFile(bytes, bytes.size() < HEAD_BYTES))
         return {};
-    if (!whole)
-        bytes += file.readAll();
-    return bytes.size() > MAX_PARAMS_FILE_BYTES ? QByteArray() : bytes;
+    if (bytes.size() == HEAD_BYTES)
+        bytes += file.read(listedSize - HEAD_BYTES);
+    return bytes;
 }
 
 } // namespace
