@@ -25,6 +25,7 @@ ROUNDS=${ROUNDS:-7}
 TOUR_ROUNDS=${TOUR_ROUNDS:-3}
 mkdir -p "$WORK"
 cd "$WORK"
+rm -rf tour[0-9]* # the tours of an earlier run
 
 # A small picture, so that the gallery's share of each export is what the figures show.
 if [ ! -f picture.jpg ]; then
@@ -113,10 +114,11 @@ if [ -n "$TOURS" ]; then
   : > tourtimes
   for ((r = 0; r < TOUR_ROUNDS; r++)); do
     for t in $TOURS; do
-      rm -rf "tour$t"
+      # A fresh folder each round, none removed meanwhile: ext4 searches longer for free inodes
+    # right after many files are deleted, which would burden whichever tour comes next.
       pictures=()
       for ((i = 1; i <= t; i++)); do pictures+=("pictures/p$(printf %04d $i).jpg"); done
-      echo "$t $(milliseconds exportPage "tour$t" p0001 "${pictures[@]}")" >> tourtimes
+      echo "$t $(milliseconds exportPage "tour$t-$r" p0001 "${pictures[@]}")" >> tourtimes
     done
   done
   first=""
@@ -128,7 +130,7 @@ if [ -n "$TOURS" ]; then
     awk -v t="$t" -v ms="$ms" -v first="$first" -v firstT="$firstT" 'BEGIN {
       printf "| %d | %.1f | %.1f ms | %.1fx | %.0fx |\n", t, ms / 1000, ms / t, ms / first, t / firstT }'
   done
-  grep -c '"href"' "tour${maxTour}/vantoViewerGallery."* | sed 's/^/gallery entries after the largest tour: /'
+  grep -c '"href"' "tour${maxTour}-0/vantoViewerGallery."* | sed 's/^/gallery entries after the largest tour: /'
 fi
 
 echo

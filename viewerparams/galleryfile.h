@@ -12,6 +12,12 @@ namespace vantora::params {
 void addGalleryEntry(QJsonArray &gallery, const QString &paramsFileName, const QString &text,
     const QJsonObject &location);
 
+// Reads `fileName` of `folder` (ending in a separator), as it was listed with `listedSize`
+// bytes, and appends its entry when it is the parameter file of an earlier export. Anything
+// else, unreadable files included, is passed over.
+void readGalleryEntry(
+    QJsonArray &gallery, const QString &folder, const QString &fileName, qint64 listedSize);
+
 class TourFolderReader;
 
 // Collects the current panorama and every earlier export of `outputFolder` into

@@ -5,7 +5,6 @@
 #include "plugin/paths.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -14,10 +13,6 @@ namespace vantora::params {
 namespace {
 
 constexpr std::size_t REMEMBERED_FOLDERS = 4;
-
-// Enough for a parameter file or a controls file in one read; a longer file is read on only when
-// its head shows the prefix.
-constexpr qint64 HEAD_BYTES = 64 * 1024;
 
 const QStringList VIEWER_FILE_PATTERNS
     = {QStringLiteral("*.json"), QStringLiteral("*.jsonp"), QStringLiteral("*.js")};
@@ -65,23 +60,6 @@ void sortAsListed(std::vector<platform::ListedFile> &files)
     files = std::move(sorted);
 }
 
-// The file's bytes as listed, when they may hold a parameter file; an empty array when they
-// cannot. The listing is the scan's view of the folder: a file that grows after it is read up
-// to its listed size, and its new stamp has it read again at the next scan.
-QByteArray readCandidate(const QString &path, qint64 listedSize)
-{
-    QFile file(path);
-    if (listedSize > MAX_PARAMS_FILE_BYTES
-        || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return {};
-    QByteArray bytes = file.read(std::min(listedSize, HEAD_BYTES));
-    if (!mayBeParamsFile(bytes, bytes.size() < HEAD_BYTES))
-        return {};
-    if (bytes.size() == HEAD_BYTES)
-        bytes += file.read(listedSize - HEAD_BYTES);
-    return bytes;
-}
-
 } // namespace
 
 TourFolderReader::TourFolderReader(qint64 settleMs)
@@ -115,14 +93,10 @@ TourFolderReader::Remembered TourFolderReader::read(
     const qint64 readAtNs = QDateTime::currentMSecsSinceEpoch() * 1000000;
     remembered.settled = m_settleMs == 0
         || std::max(file.stamp.modifiedNs, file.stamp.changedNs) < readAtNs - m_settleMs * 1000000;
-    const QByteArray bytes = readCandidate(folder + file.name, file.stamp.size);
-    if (bytes.isEmpty())
-        return remembered;
-    if (const std::optional<PanoramaSummary> panorama = panoramaFromBytes(bytes)) {
-        QJsonArray one;
-        addGalleryEntry(one, file.name, panorama->text, panorama->location);
+    QJsonArray one;
+    readGalleryEntry(one, folder, file.name, file.stamp.size);
+    if (!one.isEmpty())
         remembered.entry = one.first().toObject();
-    }
     return remembered;
 }
 
