@@ -104,10 +104,11 @@ void TourFolderReader::appendEarlierExports(
     QJsonArray &gallery, const QString &folder, const QString &currentName)
 {
     // Entries name their files relative to the folder, as the viewer loads them.
-    const QString base = folder.isEmpty() ? QStringLiteral(".") : folder;
+    const QString base
+        = plugin::withTrailingSeparator(folder.isEmpty() ? QStringLiteral(".") : folder);
     std::vector<platform::ListedFile> files = platform::listPlainFiles(base, isViewerFileName);
     sortAsListed(files);
-    FolderMemory &memory = memoryOf(plugin::withTrailingSeparator(base));
+    FolderMemory &memory = memoryOf(base);
     FolderMemory now;
     now.reserve(int(files.size()));
     for (const platform::ListedFile &file : files) {
@@ -118,7 +119,7 @@ void TourFolderReader::appendEarlierExports(
         if (known != memory.constEnd() && known->settled && known->stamp == file.stamp) {
             remembered = *known;
         } else {
-            remembered = read(plugin::withTrailingSeparator(base), file);
+            remembered = read(base, file);
             ++m_filesRead;
         }
         if (remembered.entry)
