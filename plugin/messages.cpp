@@ -29,4 +29,13 @@ bool askYesNo(QWidget *parent, const QString &title, const QString &text)
         == QMessageBox::Yes;
 }
 
+bool askWarningYesNo(QWidget *parent, const QString &title, const QString &text)
+{
+    if (!widgetsAvailable())
+        return false;
+    return QMessageBox::warning(
+               parent, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes)
+        == QMessageBox::Yes;
+}
+
 } // namespace vantora::plugin
