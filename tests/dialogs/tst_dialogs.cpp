@@ -88,6 +88,28 @@ QStringList itemsOf(QComboBox *box)
     return items;
 }
 
+// Texts that do not fit their widget, by object name: a layout that cuts a label or a button
+// at this font size and scale.
+QStringList cutTexts(QWidget *dialog)
+{
+    QStringList cut;
+    for (QWidget *widget : dialog->findChildren<QWidget *>()) {
+        if (!widget->isVisible()
+            || !(qobject_cast<QLabel *>(widget) || qobject_cast<QAbstractButton *>(widget)
+                || qobject_cast<QComboBox *>(widget)))
+            continue;
+        const auto *label = qobject_cast<QLabel *>(widget);
+        if (label && label->wordWrap())
+            continue;
+        if (widget->width() < widget->sizeHint().width())
+            cut << QStringLiteral("%1: %2 < %3")
+                       .arg(widget->objectName())
+                       .arg(widget->width())
+                       .arg(widget->sizeHint().width());
+    }
+    return cut;
+}
+
 // What a step saw in a dialog, for the test body to compare once exec() has returned.
 using Seen = QMap<QString, QVariant>;
 
@@ -134,6 +156,13 @@ constexpr struct { const char *name; u32 stored; int index; bool accept; u32 res
 
 // preview: -1 no preview operation, else what the host answers. The view as command 4 sees it
 // afterwards, in the dialog's order: pan, tilt, minhfov, hfov, maxhfov.
+constexpr struct { const char *name; QLocale::Language language; QLocale::Country country; int scale; } LAYOUT_ROWS[] = {
+    {"de_100", QLocale::German,  QLocale::Germany,        1},
+    {"en_100", QLocale::English, QLocale::UnitedKingdom, 1},
+    {"de_200", QLocale::German,  QLocale::Germany,        2},
+    {"en_200", QLocale::English, QLocale::UnitedKingdom, 2},
+};
+
 constexpr struct { const char *name; int preview; bool accept; double view[5]; } FOV_ROWS[] = {
     {"OK applies the fields",          -1, true,  {100, 5, 30, 70, 120}},
     {"Cancel changes nothing",         -1, false, {100, 5, 20, 70, 120}},
@@ -604,6 +633,61 @@ private slots:
         QCOMPARE(g_log.hooks[1].second, nullptr);
     }
 
+    // Each dialog at 100 % and 200 % (the host's scale factor and a font twice as large), in
+    // German and English: no text is cut. With VANTORA_SCREENSHOTS set to a folder, each dialog
+    // is saved there as <dialog>_<row>.png.
+    void layout_data() { addRows(LAYOUT_ROWS); }
+    void layout()
+    {
+        QFETCH(int, row);
+        const auto &r = LAYOUT_ROWS[row];
+        QLocale::setDefault(QLocale(r.language, r.country));
+        const QFont font = QApplication::font();
+        QFont scaled = font;
+        scaled.setPointSizeF(font.pointSizeF() * r.scale);
+        QApplication::setFont(scaled);
+        g_log.uiScale = r.scale;
+        const QString folder = qEnvironmentVariable("VANTORA_SCREENSHOTS");
+        QMap<QString, QStringList> cut;
+        int minimumEdit = 0;
+        const auto look = [&](const char *name) {
+            return [&, name](QWidget *d) {
+                cut[name] = cutTexts(d);
+                if (!folder.isEmpty())
+                    QVERIFY(d->grab().save(folder + '/' + QString(name).toLower() + '_'
+                        + QTest::currentDataTag() + ".png"));
+            };
+        };
+        driver()
+            .then("MainDlg",
+                [&](QWidget *d) {
+                    look("MainDlg")(d);
+                    minimumEdit = child<QLineEdit>(d, "filenameEdit")->minimumWidth();
+                    clickLater(child<QPushButton>(d, "fovButton"));
+                })
+            .then("FovDlg",
+                [&](QWidget *d) {
+                    look("FovDlg")(d);
+                    pressLater(d, QDialogButtonBox::Cancel);
+                })
+            .then("MainDlg", [](QWidget *d) { clickLater(child<QPushButton>(d, "qualityButton")); })
+            .then("QualityDlg",
+                [&](QWidget *d) {
+                    look("QualityDlg")(d);
+                    pressLater(d, QDialogButtonBox::Cancel);
+                })
+            .then("MainDlg", cancelMain);
+        m_host->put(at::ImageWidth, u32(12000), at::ImageHeight, u32(6000));
+        prepare("C:\\Users\\Anna\\Panoramen\\Hafen");
+        QApplication::setFont(font);
+
+        QCOMPARE(cut.keys(), QStringList({"FovDlg", "MainDlg", "QualityDlg"}));
+        for (auto it = cut.cbegin(); it != cut.cend(); ++it)
+            QVERIFY2(it.value().isEmpty(), qPrintable(it.key() + ": " + it.value().join(", ")));
+        // Fixed pixel sizes follow the host's scale factor.
+        QCOMPARE(minimumEdit, 420 * r.scale);
+    }
+
     // The page cannot be written: the critical box names it, and nothing is written.
     void unwritablePage()
     {
@@ -629,6 +713,32 @@ private slots:
         QCOMPARE(g_log.tiles, 0);
         QCOMPARE(QDir(m_out).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
             QStringList("plain.txt"));
+    }
+
+    // English only for an English default locale; every other language gets the German texts.
+    void language_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("title");
+        const QString german = "Interaktives HTML5-Panorama/Zoom-Bild speichern...";
+        const QString english = "Save Interactive HTML5 Panorama/Zoom Image...";
+        QTest::addRow("en_US") << QLocale(QLocale::English, QLocale::UnitedStates) << english;
+        QTest::addRow("fr_FR") << QLocale(QLocale::French, QLocale::France) << german;
+        QTest::addRow("de_CH") << QLocale(QLocale::German, QLocale::Switzerland) << german;
+        QTest::addRow("C") << QLocale::c() << german;
+    }
+    void language()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, title);
+        QLocale::setDefault(locale);
+        QString seen;
+        driver().then("MainDlg", [&](QWidget *d) {
+            seen = d->windowTitle();
+            cancelMain(d);
+        });
+        prepare(m_out + "tour");
+        QCOMPARE(seen, title);
     }
 
     // Under an English default locale the library shows its English texts.
