@@ -15,6 +15,9 @@ namespace {
 constexpr int TICK_MS = 10;
 // A step that has not come after this long will not come: close what is open and give up.
 constexpr int GIVE_UP_TICKS = 1000;
+// A modal widget no step expects counts only once it stays active this long: between one box
+// closing and its caller going on, the caller is briefly the active modal widget again.
+constexpr int UNEXPECTED_TICKS = 30;
 
 void closeLater(QWidget *widget)
 {
@@ -55,15 +58,23 @@ void ModalDriver::timerEvent(QTimerEvent *event)
         }
         return;
     }
-    m_idleTicks = 0;
     const QByteArray name = modal->metaObject()->className();
     if (m_steps.empty() || !name.endsWith(m_steps.front().className)) {
+        if (modal != m_unexpected) {
+            m_unexpected = modal;
+            m_unexpectedTicks = 0;
+        }
+        if (++m_unexpectedTicks < UNEXPECTED_TICKS)
+            return;
         m_problems << QStringLiteral("unexpected %1 \"%2\"")
                           .arg(QString::fromLatin1(name), modal->windowTitle());
         m_lastActed = modal;
+        m_unexpected = nullptr;
         closeLater(modal);
         return;
     }
+    m_idleTicks = 0;
+    m_unexpected = nullptr;
     const Step step = m_steps.front();
     m_steps.pop_front();
     m_lastActed = modal;

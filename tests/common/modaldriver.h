@@ -40,6 +40,8 @@ private:
     };
     std::deque<Step> m_steps;
     QPointer<QWidget> m_lastActed;
+    QPointer<QWidget> m_unexpected;
+    int m_unexpectedTicks = 0;
     QStringList m_problems;
     int m_timerId = 0;
     int m_idleTicks = 0;

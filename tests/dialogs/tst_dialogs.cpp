@@ -3,6 +3,8 @@
 #include "common/hostbuilder.h"
 #include "common/modaldriver.h"
 #include "common/textcompare.h"
+#include "settings/settingsblock.h"
+#include "settings/viewersettings.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -373,6 +375,12 @@ private slots:
         const auto &r = SAVE_ROWS[row];
         m_host->put(at::ImageWidth, r.width, at::ImageHeight, r.height, at::FitToPage, u32(1));
         const QString page = m_out + "tour.html";
+        // Settings restored before command 0 that a flat zoom image overrides: mouse and touch.
+        vantora::settings::ViewerSettings restored;
+        resetViewerSettings(restored, false);
+        restored.MouseMode = restored.TouchMode = 0;
+        const QByteArray block = vantora::settings::encodeSettingsBlock(restored);
+        call(6, quint64(std::uintptr_t(block.constData())));
         Seen seen;
         driver().then("MainDlg", [&](QWidget *d) {
             child<QComboBox>(d, "typeBox")->setCurrentIndex(r.type);
@@ -428,6 +436,14 @@ private slots:
         QVERIFY2(text.endsWith(" KB\n\nJetzt im Browser anzeigen?"), qPrintable(text));
         QCOMPARE(box["default"].toBool(), true);
         QCOMPARE(m_opened, r.open ? QList<QUrl>({QUrl::fromLocalFile(page)}) : QList<QUrl>());
+        vantora::settings::ViewerSettings exported;
+        resetViewerSettings(exported, false);
+        const quint64 saved = call(2);
+        QVERIFY(vantora::settings::decodeSettingsBlock(
+            reinterpret_cast<const unsigned char *>(std::uintptr_t(saved)), exported));
+        call(3);
+        QCOMPARE(
+            QList<int>({exported.MouseMode, exported.TouchMode}), QList<int>({r.type, r.type}));
 
         // The same document at the same size opens on the scale chosen last time.
         driver().then("MainDlg", [&](QWidget *d) {
