@@ -21,14 +21,13 @@
 namespace vantora::dialogs {
 namespace {
 
-// Texts set from code share the form's translation context, "MainDlg", rather than the class's
-// qualified name, so that one context holds every text of the dialog.
-
 // scaleBox lists 100 % down to 10 % in steps of 5.
 constexpr int SCALE_ENTRIES = 19;
 
 } // namespace
 
+// Texts set from code are looked up in the form's translation context, "MainDlg", rather than in
+// the class's qualified name, so that one context holds every text of the dialog.
 MainDlg::MainDlg(QWidget *parent, const QString &proposedPath, plugin::ExportJob *job)
     : QDialog(parent)
     , m_host(plugin::currentHost())
