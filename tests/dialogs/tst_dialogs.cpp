@@ -294,9 +294,7 @@ private slots:
         m_host->put(at::FlatImage, r.flat, at::HideFovButton, r.hideFov, at::FitToPage, r.fitToPage,
             at::PageWidth, 1024, at::PageHeight, 4000);
         Seen seen;
-        QWidget *dialogSeen = nullptr;
         driver().then("MainDlg", [&](QWidget *d) {
-            dialogSeen = d;
             seen["parent"] = d->parentWidget() == m_parent.get();
             seen["title"] = d->windowTitle();
             seen["flags"] = int(d->windowFlags()
@@ -358,7 +356,6 @@ private slots:
         QVERIFY(g_log.hooks[0].first.endsWith("MainDlg"));
         QCOMPARE(g_log.hooks[0].second, m_host->context());
         QCOMPARE(g_log.hookZeros, QList<quint64>({0}));
-        Q_UNUSED(dialogSeen)
 
         // Cancelled: nothing handed back, nothing stored, and the job stays idle.
         QCOMPARE(m_host->outputText(), QString());
