@@ -3,8 +3,7 @@
 #include "buttons.h"
 
 #include "viewerparams/actions.h"
-
-#include <iterator>
+#include "viewerparams/design.h"
 
 namespace vantora::controls {
 namespace {
@@ -17,7 +16,7 @@ struct GyroRow
 };
 
 // clang-format off
-constexpr GyroRow GYRO_SETS[] = {
+constexpr params::PerDesign<GyroRow> GYRO_SETS = params::perDesign<GyroRow>({
     /* 0 */ {"shadow(5,0,0,rgba(0,0,0,1));comp(0.66);copy(defaultSkin,64,128,64,64,0,0,28,28);",
              "shadow(5,0,0,rgba(0,0,0,1));comp(0.66);copy(defaultSkin,64,128,64,64,0,0,28,28);",
              "shadow(5,0,0,rgba(0,0,0,1));comp(1.0);copy(defaultSkin,64,128,64,64,0,0,28,28);"},
@@ -42,25 +41,23 @@ constexpr GyroRow GYRO_SETS[] = {
     /* 7 */ {"shadow(5,0,0,rgba(0,0,0,1));comp(0.66);copy(defaultSkin,64,128,64,64,0,0,28,28);",
              "shadow(5,0,0,rgba(0,0,0,1));comp(0.66);copy(defaultSkin,64,128,64,64,0,0,28,28);",
              "shadow(3,0,0,rgba(0,0,0,1));comp(1.0);copy(defaultSkin,64,128,64,64,0,0,28,28);"},
-};
+});
 
-// Design 7's hover and pressed faces: the halo behind the icon, disabled and enabled.
+// Design 7's disabled hover and pressed faces: the halo behind the dimmed icon. The enabled ones
+// are the family rule's.
 constexpr struct { const char *members[2]; const char *text; } DESIGN_7_HALOS[] = {
     {{"skinhover", "disabledskinhover"},   "dim(-10px,-10px,48px,48px,48,48);comp(0.5);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));comp(0.66);copy(defaultSkin,64,128,64,64,10,10,28,28);"},
     {{"skinactive", "disabledskinactive"}, "dim(-10px,-10px,48px,48px,48,48);comp(0.9);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));comp(0.66);copy(defaultSkin,64,128,64,64,10,10,28,28);"},
-    {{"enabledskinhover", nullptr},        "dim(-10px,-10px,48px,48px,48,48);comp(0.5);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,64,128,64,64,10,10,28,28);"},
-    {{"enabledskinactive", nullptr},       "dim(-10px,-10px,48px,48px,48,48);comp(0.9);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,64,128,64,64,10,10,28,28);"},
 };
 // clang-format on
-static_assert(std::size(GYRO_SETS) == 8, "one row per toolbar design");
 
 } // namespace
 
 void writeGyroButton(QJsonObject &button, int design, QJsonArray &actions)
 {
     writeSpecButton(button, GYRO_BUTTON, design);
-    if (design >= 0 && design < int(std::size(GYRO_SETS))) {
-        const GyroRow &row = GYRO_SETS[design];
+    if (const GyroRow *found = params::designRow(GYRO_SETS, design)) {
+        const GyroRow &row = *found;
         button.insert(QStringLiteral("skin"), QLatin1String(row.skin));
         button.insert(QStringLiteral("disabledskin"), QLatin1String(row.disabledSkin));
         button.insert(QStringLiteral("enabledskin"), QLatin1String(row.enabledSkin));
@@ -70,6 +67,10 @@ void writeGyroButton(QJsonObject &button, int design, QJsonArray &actions)
             for (const char *member : halo.members)
                 if (member)
                     button.insert(QLatin1String(member), QLatin1String(halo.text));
+        button.insert(QStringLiteral("enabledskinhover"),
+            familySkin(design, SkinMember::SkinHover, GYRO_BUTTON.tile));
+        button.insert(QStringLiteral("enabledskinactive"),
+            familySkin(design, SkinMember::SkinActive, GYRO_BUTTON.tile));
     }
     params::appendAction(actions, QStringLiteral("updateGyroButton"),
         QLatin1String(design == 7 ? UPDATE_GYRO_BUTTON_DESIGN_7 : UPDATE_GYRO_BUTTON));

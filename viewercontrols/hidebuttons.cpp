@@ -2,9 +2,8 @@
 
 #include "skinrule.h"
 #include "toolbartexts.h"
+#include "viewerparams/design.h"
 #include "viewerparams/tabletext.h"
-
-#include <iterator>
 
 namespace vantora::controls {
 namespace {
@@ -18,14 +17,14 @@ constexpr unsigned HIDE_QUIRKS
 // clang-format off
 // How each sliding design moves the toolbar out (hide) and back (show). Designs 3 and 4 do not
 // return to their initial offsets; the viewer's users have known them that way.
-constexpr const char *SLIDE_HIDE[8] = {
+constexpr params::PerDesign<const char *> SLIDE_HIDE = params::perDesign<const char *>({
     nullptr, SLIDE_HIDE_TO_52, SLIDE_HIDE_TO_70_DESIGN_2, SLIDE_HIDE_TO_70,
     SLIDE_HIDE_TO_70_DESIGN_4, SLIDE_HIDE_TO_70, SLIDE_HIDE_TO_70, SLIDE_HIDE_TO_70,
-};
-constexpr const char *SLIDE_SHOW_START[8] = {
+});
+constexpr params::PerDesign<const char *> SLIDE_SHOW_START = params::perDesign<const char *>({
     nullptr, SLIDE_SHOW_DESIGN_1, SLIDE_SHOW, SLIDE_SHOW,
     SLIDE_SHOW_DESIGN_4, SLIDE_SHOW, SLIDE_SHOW, SLIDE_SHOW_DESIGN_7,
-};
+});
 
 // The show button by design; nullptr: member not written. "yoff" parked applies while the
 // toolbar is shown, "yoff" ready while it is hidden.
@@ -38,7 +37,7 @@ struct ShowRow
 constexpr char HALO_SKIN[] = "shadow(3,0,0,rgba(0,0,0,1));comp(1);copy(defaultSkin,128,192,64,64,0,0,24,24)";
 constexpr char HALO_HOVER[] = "dim(-4px,-4px,32px,32px,32,32);comp(0.35);copy(defaultSkin,0,128,64,64,0,0,30,30);shadow(3,0,0,rgba(0,0,0,1));comp(1);copy(defaultSkin,128,192,64,64,4,4,24,24)";
 constexpr char HALO_ACTIVE[] = "dim(-4px,-4px,32px,32px,32,32);comp(0.6);copy(defaultSkin,0,128,64,64,0,0,30,30);shadow(3,0,0,rgba(0,0,0,1));comp(1);copy(defaultSkin,128,192,64,64,4,4,24,24)";
-constexpr ShowRow SHOW_BUTTON[8] = {
+constexpr params::PerDesign<ShowRow> SHOW_BUTTON = params::perDesign<ShowRow>({
     /* 0 */ {0, 24, 24, 0, 0,
              "shadow(4,0,0,rgba(0,0,0,1));shadow(3,0,0,rgba(0,0,0,1));comp(1.0);copy(defaultSkin,128,192,64,64,0,0,24,24)", nullptr, nullptr,
              nullptr, " background-color:rgba(255, 255, 255, 0.15); box-shadow: 0px 0px 9px 8px rgba(255, 255, 255, 0.15); ", " background-color:rgba(255, 255, 255, 0.25); box-shadow: 0px 0px 9px 8px rgba(255, 255, 255, 0.25); "},
@@ -53,12 +52,12 @@ constexpr ShowRow SHOW_BUTTON[8] = {
     /* 5 */ {0, 24, 24, -30, 0, HALO_SKIN, HALO_HOVER, HALO_ACTIVE, nullptr, nullptr, nullptr},
     /* 6 */ {0, 24, 24, -30, 0, HALO_SKIN, HALO_HOVER, HALO_ACTIVE, nullptr, nullptr, nullptr},
     /* 7 */ {0, 24, 24, -30, 0, HALO_SKIN, HALO_HOVER, HALO_ACTIVE, nullptr, nullptr, nullptr},
-};
+});
 // clang-format on
 
 bool knownDesign(int design)
 {
-    return design >= 0 && design < int(std::size(SHOW_BUTTON));
+    return params::isDesign(design);
 }
 
 QString foldHideHandler(const HideShowContext &context)

@@ -4,9 +4,8 @@
 #include "skinrule.h"
 #include "toolbardesigns.h"
 #include "toolbartexts.h"
+#include "viewerparams/design.h"
 #include "viewerparams/tabletext.h"
-
-#include <iterator>
 
 namespace vantora::controls {
 namespace {
@@ -14,32 +13,46 @@ namespace {
 constexpr Tile PREVIOUS_TILE {192, 384};
 constexpr Tile NEXT_TILE {128, 384};
 
-// The edge buttons' look by design; nullptr: member not written. Design 1 takes its skins from
-// the family rule and the toolbar's button styles, design 4 the round border.
+// How an edge button's skins are made: by the family rule of its design, as a free-standing
+// button (pressed in as deep as design 7's buttons, or not), or inside design 4's round border.
+enum class EdgeFace { Family, Free, FreeDeeper, Round };
+
+// The edge buttons' look by design; nullptr: member not written. Design 1 takes the toolbar's
+// button styles.
 struct EdgeRow
 {
-    const char *skin, *skinHover, *skinActive;
+    EdgeFace face;
     const char *style, *styleHover, *styleActive;
 };
 
 // clang-format off
-constexpr EdgeRow EDGE_DESIGNS[] = {
-    /* 0 */ {FREE_SKIN,  FREE_HALO_HOVER, FREE_HALO_ACTIVE,         nullptr, nullptr, nullptr},
-    /* 1 */ {nullptr,    nullptr,         nullptr,                  TOOLBAR_DESIGNS[1].buttonStyle, TOOLBAR_DESIGNS[1].buttonStyleHover, TOOLBAR_DESIGNS[1].buttonStyleActive},
-    /* 2 */ {FREE_SKIN,  FREE_HALO_HOVER, FREE_HALO_ACTIVE_DEEPER,  nullptr, nullptr, nullptr},
-    /* 3 */ {FREE_SKIN,  FREE_HALO_HOVER, FREE_HALO_ACTIVE_DEEPER,  nullptr, nullptr, nullptr},
-    /* 4 */ {ROUND_SKIN, nullptr,         ROUND_SKIN_ACTIVE,        ROUND_STYLE, ROUND_STYLE_HOVER, ROUND_STYLE_ACTIVE},
-    /* 5 */ {FREE_SKIN,  FREE_HALO_HOVER, FREE_HALO_ACTIVE_DEEPER,  nullptr, nullptr, nullptr},
-    /* 6 */ {FREE_SKIN,  FREE_HALO_HOVER, FREE_HALO_ACTIVE_DEEPER,  nullptr, nullptr, nullptr},
-    /* 7 */ {FREE_SKIN,  FREE_HALO_HOVER, FREE_HALO_ACTIVE,         nullptr, nullptr, nullptr},
-};
+constexpr params::PerDesign<EdgeRow> EDGE_DESIGNS = params::perDesign<EdgeRow>({
+    /* 0 */ {EdgeFace::Free,       nullptr, nullptr, nullptr},
+    /* 1 */ {EdgeFace::Family,     TOOLBAR_DESIGNS[1].buttonStyle, TOOLBAR_DESIGNS[1].buttonStyleHover, TOOLBAR_DESIGNS[1].buttonStyleActive},
+    /* 2 */ {EdgeFace::FreeDeeper, nullptr, nullptr, nullptr},
+    /* 3 */ {EdgeFace::FreeDeeper, nullptr, nullptr, nullptr},
+    /* 4 */ {EdgeFace::Round,      ROUND_STYLE, ROUND_STYLE_HOVER, ROUND_STYLE_ACTIVE},
+    /* 5 */ {EdgeFace::FreeDeeper, nullptr, nullptr, nullptr},
+    /* 6 */ {EdgeFace::FreeDeeper, nullptr, nullptr, nullptr},
+    /* 7 */ {EdgeFace::Free,       nullptr, nullptr, nullptr},
+});
 // clang-format on
-static_assert(std::size(EDGE_DESIGNS) == 8, "one row per toolbar design");
 
-void insertSkin(QJsonObject &object, const char *key, const char *pattern, Tile tile)
+void writeEdgeSkins(QJsonObject &button, int design, EdgeFace face, Tile tile)
 {
-    if (pattern)
-        object.insert(QLatin1String(key), withTile(pattern, tile));
+    switch (face) {
+    case EdgeFace::Family:
+        writeFamilySkins(button, design, tile);
+        break;
+    case EdgeFace::Free:
+    case EdgeFace::FreeDeeper:
+        writeFreeSkins(button, tile, face == EdgeFace::FreeDeeper);
+        break;
+    case EdgeFace::Round:
+        button.insert(QStringLiteral("skin"), withTile(ROUND_SKIN, tile));
+        button.insert(QStringLiteral("skinactive"), withTile(ROUND_SKIN_ACTIVE, tile));
+        break;
+    }
 }
 
 QJsonObject edgeButton(int design, bool next, bool toolbarShown)
@@ -56,17 +69,14 @@ QJsonObject edgeButton(int design, bool next, bool toolbarShown)
     button.insert(QStringLiteral("height"), 28);
     button.insert(QStringLiteral("visible"), false);
     params::insertText(button, "onclick", next ? GALLERY_NEXT_ONCLICK : GALLERY_PREVIOUS_ONCLICK);
-    if (design < 0 || design >= int(std::size(EDGE_DESIGNS))) {
+    const EdgeRow *found = params::designRow(EDGE_DESIGNS, design);
+    if (!found) {
         params::insertText(button, "oninit", EDGE_ONINIT);
         return button;
     }
 
-    const EdgeRow &row = EDGE_DESIGNS[design];
-    if (design == 1)
-        writeFamilySkins(button, design, tile);
-    insertSkin(button, "skin", row.skin, tile);
-    insertSkin(button, "skinhover", row.skinHover, tile);
-    insertSkin(button, "skinactive", row.skinActive, tile);
+    const EdgeRow &row = *found;
+    writeEdgeSkins(button, design, row.face, tile);
     params::insertText(button, "style", row.style);
     params::insertText(button, "stylehover", row.styleHover);
     params::insertText(button, "styleactive", row.styleActive);

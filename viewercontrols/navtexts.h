@@ -19,12 +19,8 @@ constexpr char EDGE_FOLD_STYLE_PREVIOUS_HIDDEN[] = "transform-origin: -30% 50% 0
 constexpr char EDGE_FOLD_STYLE_NEXT_SHOWN[] = "transform-origin: 130% 50% 0px; transform: translate(0px,0px) translateZ(10000px) perspective( 800px ) rotateY( 0deg ); transition: transform 500ms;";
 constexpr char EDGE_FOLD_STYLE_NEXT_HIDDEN[] = "transform-origin: 130% 50% 0px; transform: translate(0px,0px) translateZ(10000px) perspective(800px) rotateY(90deg); transition: transform 500ms; ";
 
-// Skins of the free-standing buttons: the icon, the round halo behind it on hover (without the
-// final ';') and on press, and design 4's icon inside the round white border.
-constexpr char FREE_SKIN[] = "shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,0,0,28,28);";
-constexpr char FREE_HALO_HOVER[] = "dim(-10px,-10px,48px,48px,48,48);comp(0.5);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,10,10,28,28)";
-constexpr char FREE_HALO_ACTIVE[] = "dim(-10px,-10px,48px,48px,48,48);comp(0.9);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,10,10,28,28);";
-constexpr char FREE_HALO_ACTIVE_DEEPER[] = "dim(-10px,-10px,48px,48px,48,48);comp(0.9);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,11,11,28,28);";
+// Design 4's icon inside the round white border of its free-standing buttons; their other faces
+// come from the family rule (writeFreeSkins).
 constexpr char ROUND_SKIN[] = "shadow(3,0,0,rgba(0,0,0,1));comp(1);copy(defaultSkin,@TILE@,64,64,2,2,24,24)";
 constexpr char ROUND_SKIN_ACTIVE[] = "shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,2,2,24,24)";
 constexpr char ROUND_HALO_HOVER[] = "dim(-10px,-10px,48px,48px,48,48);comp(0.5);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,12,12,24,24)";

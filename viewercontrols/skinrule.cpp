@@ -1,6 +1,6 @@
 #include "skinrule.h"
 
-#include <iterator>
+#include "viewerparams/design.h"
 
 namespace vantora::controls {
 namespace {
@@ -14,7 +14,7 @@ struct RuleRow
 };
 
 // clang-format off
-constexpr RuleRow FAMILY_RULE[] = {
+constexpr params::PerDesign<RuleRow> FAMILY_RULE = params::perDesign<RuleRow>({
     /* 0 */ {"shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,0,0,28,28);", nullptr, nullptr},
     /* 1 */ {"shadow(3,2,2,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,0,0,28,28);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,0,0,28,28);",
              "shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,1,1,28,28);", nullptr},
@@ -30,9 +30,8 @@ constexpr RuleRow FAMILY_RULE[] = {
     /* 7 */ {"shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,0,0,28,28);",
              "dim(-10px,-10px,48px,48px,48,48);comp(0.9);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,10,10,28,28);",
              "dim(-10px,-10px,48px,48px,48,48);comp(0.5);copy(defaultSkin,0,128,64,64,0,0,48,48);comp(1.0);shadow(3,0,0,rgba(0,0,0,1));copy(defaultSkin,@TILE@,64,64,10,10,28,28);"},
-};
+});
 // clang-format on
-static_assert(std::size(FAMILY_RULE) == 8, "one row per toolbar design");
 
 const char *rulePattern(int design, SkinMember member)
 {
@@ -75,7 +74,7 @@ QString withTile(const char *pattern, Tile tile)
 
 QString familySkin(int design, SkinMember member, Tile tile, unsigned quirks)
 {
-    if (design < 0 || design >= int(std::size(FAMILY_RULE)))
+    if (!params::isDesign(design))
         return QString();
     const char *pattern = rulePattern(design, member);
     if (!pattern || (quirks & OwnSkins))
@@ -107,6 +106,12 @@ void writeFamilySkins(
         if (!text.isNull())
             button.insert(prefix + QLatin1String(m.name), text);
     }
+}
+
+void writeFreeSkins(QJsonObject &button, Tile tile, bool deeper)
+{
+    writeFamilySkins(
+        button, 7, tile, Design7HoverWithoutSemicolon | (deeper ? Design7PressedDeeper : NoQuirk));
 }
 
 } // namespace vantora::controls

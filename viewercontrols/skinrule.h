@@ -40,6 +40,11 @@ QString familySkin(int design, SkinMember member, Tile tile, unsigned quirks = N
 void writeFamilySkins(QJsonObject &button, int design, Tile tile, unsigned quirks = NoQuirk,
     const QString &prefix = QString());
 
+// Writes the faces of a free-standing button (gallery edge, stereo VR): design 7's set by the rule,
+// its hover halo without the final ';'; `deeper` presses the icon in as far as design 7's own
+// buttons do.
+void writeFreeSkins(QJsonObject &button, Tile tile, bool deeper);
+
 // "X,Y" of a tile as the skin texts spell it.
 QString tileText(Tile tile);
 

@@ -4,6 +4,7 @@
 #include "hidebuttons.h"
 #include "navbuttons.h"
 #include "toolbardesigns.h"
+#include "viewerparams/design.h"
 #include "viewerparams/galleryelement.h"
 #include "viewerparams/mapelement.h"
 #include "viewerparams/orientation.h"
@@ -78,7 +79,7 @@ QJsonArray toolbarButtons(QJsonArray &actions, const ToolbarInput &input)
 QJsonObject buildToolbar(QJsonArray &actions, const ToolbarInput &input)
 {
     const settings::ViewerSettings &s = *input.settings;
-    const ToolbarDesign &d = TOOLBAR_DESIGNS[qBound(0, input.design, 7)];
+    const ToolbarDesign &d = TOOLBAR_DESIGNS[std::size_t(params::clampedDesign(input.design))];
     const bool fullWidth = s.Position == 1;
 
     QJsonObject toolbar;

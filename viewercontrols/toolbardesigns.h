@@ -1,7 +1,7 @@
 // The toolbar's eight designs as data: geometry and the CSS texts of the bar and its buttons.
 #pragma once
 
-#include <iterator>
+#include "viewerparams/design.h"
 
 namespace vantora::controls {
 
@@ -30,7 +30,7 @@ constexpr char SAND_STYLE[] = "border: #666 solid 1px; box-shadow: inset 0 2px 3
 constexpr char BLUE_STYLE[] = "background: #0F4FA8;";
 constexpr char GLOW_STYLE[] = "border-radius: 10px; border: white solid 1px; transition: width 2s, background 5s; box-shadow: 0px 0px 8px 6px rgba(255,255,255,0.5); background: linear-gradient(90deg, rgba(0,0,0,1.0) 0%, rgba(0,0,0,0.5) 66%, rgba(0,0,0,0.0) 100%);";
 
-constexpr ToolbarDesign TOOLBAR_DESIGNS[] = {
+constexpr params::PerDesign<ToolbarDesign> TOOLBAR_DESIGNS = params::perDesign<ToolbarDesign>({
     /* 0 */ {"500px", "48px", 28, 28, 8, 0,  0,   "max-width: 100%;", FOLD_STYLE_SHOWN, FOLD_STYLE_FOLDED,
              "border-radius: 50%; background-color: rgba(255,255,255,0.0); transition: background-color 150ms,box-shadow 150ms;",
              "background-color: rgba(255,255,255,0.15);box-shadow: 0px 0px 9px 8px rgba(255,255,255,0.15);",
@@ -62,8 +62,7 @@ constexpr ToolbarDesign TOOLBAR_DESIGNS[] = {
     /* 7 */ {"500px", "44px", 28, 28, 8, 10, -70, "max-width: 99%;", GLOW_STYLE, GLOW_STYLE,
              "border-radius: 10px; transition: width 100ms ease 0s, height 100ms ease 0s; background-color: rgba(0,0,0,0);",
              nullptr, nullptr},
-};
+});
 // clang-format on
-static_assert(std::size(TOOLBAR_DESIGNS) == 8, "one row per toolbar design");
 
 } // namespace vantora::controls

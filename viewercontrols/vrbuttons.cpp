@@ -3,6 +3,7 @@
 #include "navtexts.h"
 #include "skinrule.h"
 #include "toolbartexts.h"
+#include "viewerparams/design.h"
 
 #include <QJsonObject>
 
@@ -34,10 +35,8 @@ QJsonObject stereoButton(int design, bool right)
         button.insert(QStringLiteral("skin"), withTile(ROUND_SKIN, VR_TILE));
         button.insert(QStringLiteral("skinactive"), withTile(ROUND_SKIN_ACTIVE, VR_TILE));
         button.insert(QStringLiteral("skinhover"), withTile(ROUND_HALO_HOVER, VR_TILE));
-    } else if (design >= 0 && design <= 7) {
-        button.insert(QStringLiteral("skin"), withTile(FREE_SKIN, VR_TILE));
-        button.insert(QStringLiteral("skinhover"), withTile(FREE_HALO_HOVER, VR_TILE));
-        button.insert(QStringLiteral("skinactive"), withTile(FREE_HALO_ACTIVE_DEEPER, VR_TILE));
+    } else if (params::isDesign(design)) {
+        writeFreeSkins(button, VR_TILE, true);
     }
     return button;
 }

@@ -20,11 +20,6 @@ QString formattedWithoutArguments(const QString &text)
 
 } // namespace
 
-int clampedDesign(int design)
-{
-    return qBound(0, design, 7);
-}
-
 EventFlags controlsFlags(settings::ViewerSettings &settings, bool flatMode, bool vrAvailable)
 {
     settings.TBDesign = clampedDesign(settings.TBDesign);

@@ -1,6 +1,7 @@
 // The controls file: events, actions, toolbar, orientation element and context menu of the viewer.
 #pragma once
 
+#include "design.h"
 #include "events.h"
 #include "plugin/pluginstate.h"
 #include "settings/viewersettings.h"
@@ -27,9 +28,6 @@ struct ControlsInput
     // writeControlsFile() sets it to its own output folder.
     QString outputFolder;
 };
-
-// TBDesign clamped into 0..7.
-int clampedDesign(int design);
 
 // The flags that select handlers and gates. Clamps TBDesign and stores it back into `settings`.
 EventFlags controlsFlags(settings::ViewerSettings &settings, bool flatMode, bool vrAvailable);

@@ -1,6 +1,7 @@
 #include "events.h"
 
 #include "actions.h"
+#include "design.h"
 #include "eventtexts.h"
 
 namespace vantora::params {
@@ -14,7 +15,7 @@ struct DesignHandlers
     const char *onstop;
     const char *audioSets; // assignments between AUDIO_HEAD and AUDIO_TAIL
 };
-constexpr DesignHandlers DESIGN_HANDLERS[8] = {
+constexpr PerDesign<DesignHandlers> DESIGN_HANDLERS = perDesign<DesignHandlers>({
     {PLAY_ALL_SETS, STOP_ALL_SETS,        AUDIO_ALL_SETS},
     {PLAY_DESIGN_1, STOP_DESIGN_1,        AUDIO_ALL_SETS},
     {PLAY_TINTED,   STOP_SKIN_AND_ACTIVE, AUDIO_SKIN_AND_ACTIVE},
@@ -23,7 +24,7 @@ constexpr DesignHandlers DESIGN_HANDLERS[8] = {
     {PLAY_DESIGN_5, STOP_SKIN_AND_ACTIVE, AUDIO_SKIN_AND_ACTIVE},
     {PLAY_DESIGN_6, STOP_DESIGN_6,        AUDIO_SKIN_ONLY},
     {PLAY_ALL_SETS, STOP_ALL_SETS,        AUDIO_ALL_SETS},
-};
+});
 // clang-format on
 
 QString audioHandler(const char *sets, const char *face)
@@ -72,7 +73,7 @@ void buildMainEvents(QJsonObject &controlsRoot, QJsonArray &actions, const Event
     }
     events.insert(QStringLiteral("onresize"), QLatin1String(RESIZE));
 
-    const DesignHandlers &handlers = DESIGN_HANDLERS[qBound(0, flags.design, 7)];
+    const DesignHandlers &handlers = DESIGN_HANDLERS[std::size_t(clampedDesign(flags.design))];
     events.insert(QStringLiteral("onplay"), QLatin1String(handlers.onplay));
     events.insert(QStringLiteral("onstop"), QLatin1String(handlers.onstop));
     events.insert(QStringLiteral("onstartaudio"), audioHandler(handlers.audioSets, "play"));

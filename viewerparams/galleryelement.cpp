@@ -1,10 +1,9 @@
 #include "galleryelement.h"
 
 #include "actions.h"
+#include "design.h"
 #include "elementtexts.h"
 #include "tabletext.h"
-
-#include <iterator>
 
 namespace vantora::params {
 namespace {
@@ -20,7 +19,7 @@ struct ThumbRow
 };
 
 // clang-format off
-constexpr ThumbRow THUMB_DESIGNS[] = {
+constexpr PerDesign<ThumbRow> THUMB_DESIGNS = perDesign<ThumbRow>({
     /* 0 */ {nullptr, nullptr, nullptr, 96, 8},
     /* 1 */ {"box-shadow: rgb(0, 0, 0) 1px 1px 3px 1.7px;", "box-shadow: rgb(0, 0, 0) 1px 1px 3px 1.7px, 0px 0px 5px 4px rgba(255,255,255,0.5);", nullptr, 90, 11},
     /* 2 */ {"border-radius: 3px; box-shadow: rgb(0, 0, 0) 1px 1px 3px 1.7px;", "border-radius: 3px; box-shadow: rgba(0, 0, 0, 0.8) 1px 1px 3px 1.2px;", "border-radius: 3px;", 96, 8},
@@ -29,9 +28,8 @@ constexpr ThumbRow THUMB_DESIGNS[] = {
     /* 5 */ {"border-radius: 3px; box-shadow: rgba(0, 0, 0, 0.4) 2px 2px 3px 2px;", "border-radius: 3px; box-shadow: rgba(0, 0, 0, 0.4) 2px 2px 4px 1px;", "border-radius: 3px; box-shadow: rgba(0, 0, 0, 0.4) 0px 0px 1px 1px;", 96, 8},
     /* 6 */ {"box-shadow: rgba(0, 0, 0, 0.4) 2px 2px 2px 0.5px;", nullptr, nullptr, 96, 8},
     /* 7 */ {nullptr, nullptr, nullptr, 96, 8},
-};
+});
 // clang-format on
-static_assert(std::size(THUMB_DESIGNS) == 8, "one row per toolbar design");
 
 } // namespace
 
@@ -57,8 +55,8 @@ void writeGalleryElement(
     if (open)
         element.insert(QStringLiteral("oninit"), QLatin1String(GALLERY_ONINIT));
 
-    if (design >= 0 && design < int(std::size(THUMB_DESIGNS))) {
-        const ThumbRow &row = THUMB_DESIGNS[design];
+    if (const ThumbRow *found = designRow(THUMB_DESIGNS, design)) {
+        const ThumbRow &row = *found;
         insertText(element, "thumbstyle", row.thumbStyle);
         insertText(element, "thumbstylehover", row.thumbStyleHover);
         insertText(element, "selectionstyle", row.selectionStyle);

@@ -1,13 +1,12 @@
 #include "infobox.h"
 
+#include "design.h"
 #include "scripttexts.h"
-
-#include <iterator>
 
 namespace vantora::params {
 namespace {
 
-constexpr const char *MESSAGE_BOX_STYLES[] = {
+constexpr PerDesign<const char *> MESSAGE_BOX_STYLES = perDesign<const char *>({
     MESSAGE_BOX_STYLE_0,
     MESSAGE_BOX_STYLE_1,
     MESSAGE_BOX_STYLE_2,
@@ -16,8 +15,7 @@ constexpr const char *MESSAGE_BOX_STYLES[] = {
     MESSAGE_BOX_STYLE_5,
     MESSAGE_BOX_STYLE_6,
     MESSAGE_BOX_STYLE_7,
-};
-static_assert(std::size(MESSAGE_BOX_STYLES) == 8, "one style per toolbar design");
+});
 
 // How a design wraps the message text. Designs with light text on dark ground get a text class
 // of their own so that links stay readable; textClass 0 means the plain wrapper.
@@ -29,7 +27,7 @@ struct WrapperRow
 };
 
 // clang-format off
-constexpr WrapperRow WRAPPERS[] = {
+constexpr PerDesign<WrapperRow> WRAPPERS = perDesign<WrapperRow>({
     /* 0 */ {1, "#FDB815", "#EFF517"},
     /* 1 */ {0, nullptr,   nullptr},
     /* 2 */ {0, nullptr,   nullptr},
@@ -38,14 +36,8 @@ constexpr WrapperRow WRAPPERS[] = {
     /* 5 */ {6, "#FFF",    "#FFF"},
     /* 6 */ {7, "#FDB815", "#EFF517"},
     /* 7 */ {8, "#FDB815", "#EFF517"},
-};
+});
 // clang-format on
-static_assert(std::size(WRAPPERS) == 8, "one wrapper per toolbar design");
-
-bool isDesign(int design)
-{
-    return design >= 0 && design < int(std::size(WRAPPERS));
-}
 
 // Not QString::arg(): the texts around carry '%' signs that arg() would take for its markers.
 QString textPrefix(int design)

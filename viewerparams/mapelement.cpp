@@ -1,6 +1,7 @@
 #include "mapelement.h"
 
 #include "actions.h"
+#include "design.h"
 #include "elementtexts.h"
 #include "resources/resources.h"
 
@@ -11,7 +12,7 @@ namespace {
 
 // clang-format off
 // The frame around the map by design; any other value takes design 0's.
-constexpr const char *CONTENT_STYLES[] = {
+constexpr PerDesign<const char *> CONTENT_STYLES = perDesign<const char *>({
     /* 0 */ "position: absolute; left: 4px; right: 4px; bottom: 4px; top: 4px; display: inline; overflow: hidden;",
     /* 1 */ "position: absolute; left: 4px; right: 4px; bottom: 4px; top: 4px; display: inline; overflow: hidden; box-shadow: rgb(0, 0, 0) 1px 1px 3px 1.7px;",
     /* 2 */ "position: absolute; left: 4px; right: 4px; bottom: 4px; top: 4px; display: inline; overflow: hidden; border-radius: 3px; box-shadow: rgb(0, 0, 0) 1px 1px 3px 1.7px;",
@@ -20,11 +21,10 @@ constexpr const char *CONTENT_STYLES[] = {
     /* 5 */ "position: absolute; left: 8px; right: 8px; bottom: 8px; top: 8px; display: inline; overflow: hidden; border-radius: 3px; box-shadow: rgba(0, 0, 0, 0.4) 2px 2px 3px 2px;",
     /* 6 */ "position: absolute; left: 8px; right: 8px; bottom: 8px; top: 8px; display: inline; overflow: hidden; box-shadow: rgba(0, 0, 0, 0.4) 2px 2px 2px 0.5px;",
     /* 7 */ "position: absolute; left: 8px; right: 8px; bottom: 8px; top: 8px; display: inline; overflow: hidden; border-radius: 2px;",
-};
+});
 // The map types the viewer knows, by MapType.
 constexpr const char *MAP_TYPES[] = {"hybrid", "satellite", "roadmap", "osm"};
 // clang-format on
-static_assert(std::size(CONTENT_STYLES) == 8, "one row per toolbar design");
 
 void exportMarker(HostContext *host, const char *resource, const QString &target)
 {
@@ -61,7 +61,7 @@ void writeMapElement(QJsonObject &element, QJsonArray &actions, int design,
         element.insert(QStringLiteral("oninit"), QLatin1String(MAP_ONINIT));
     else
         element.insert(QStringLiteral("height"), QStringLiteral("0px"));
-    const bool knownDesign = design >= 0 && design < int(std::size(CONTENT_STYLES));
+    const bool knownDesign = isDesign(design);
     element.insert(
         QStringLiteral("contentstyle"), QLatin1String(CONTENT_STYLES[knownDesign ? design : 0]));
     if (settings.MapHideOnMarker)

@@ -1,6 +1,7 @@
 #include "orientation.h"
 
 #include "actions.h"
+#include "design.h"
 #include "orientationtexts.h"
 
 namespace vantora::params {
@@ -34,7 +35,7 @@ constexpr Tile COMPACT_NEEDLE {192, 128, 64, 64};
 // drawings get (as the design's button icons do), and where a toolbar item draws inside its
 // button (x, y, size), as the design's icons sit.
 struct Look { const char *frame; const char *shadow; const char *tint; int x, y, size; };
-constexpr Look LOOKS[8] = {
+constexpr PerDesign<Look> LOOKS = perDesign<Look>({
     {FRAME_0, "shadow(3,0,0,rgba(0,0,0,1));",            nullptr, 0, 0, 28},
     {FRAME_1, "shadow(3,2,2,rgba(0,0,0,1));",            nullptr, 0, 0, 28},
     {FRAME_2, "shadow(1,0,-1,rgba(255,255,255,0.3));",   "#444",  5, 2, 24},
@@ -43,7 +44,7 @@ constexpr Look LOOKS[8] = {
     {FRAME_5, "shadow(1,0,-1,rgba(255,255,255,0.3));",   nullptr, 5, 2, 24},
     {FRAME_6, "",                                        nullptr, 5, 5, 24},
     {FRAME_7, "shadow(3,0,0,rgba(0,0,0,1));",            nullptr, 0, 0, 28},
-};
+});
 
 // OrientationElementPosition: the corner, then the left and the right picture edge.
 struct Placement { const char *align; int xoff, yoff; };
@@ -52,7 +53,7 @@ constexpr Placement PLACEMENTS[3] = {{"lefttop", 8, 8}, {"left", 8, 0}, {"right"
 
 const Look &lookOf(int design)
 {
-    return LOOKS[qBound(0, design, 7)];
+    return LOOKS[std::size_t(clampedDesign(design))];
 }
 
 // A drawing of `tile` into the square at (x, y) of `size` pixels, shadowed and tinted.
