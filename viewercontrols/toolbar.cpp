@@ -14,9 +14,6 @@
 namespace vantora::controls {
 namespace {
 
-// Google Maps refuses shorter keys; the map then stays an empty element.
-constexpr int MIN_MAP_KEY_LENGTH = 10;
-
 // Toolbar indexes of the gallery buttons inside the toolbar.
 constexpr int NAV_LEFT_INDEX = 0;
 constexpr int NAV_RIGHT_INDEX = 15;
@@ -111,8 +108,8 @@ QJsonObject buildToolbar(QJsonArray &actions, const ToolbarInput &input)
     }
     if (s.AddMap) {
         QJsonObject map;
-        if (s.GmAPIKey.size() >= MIN_MAP_KEY_LENGTH)
-            params::writeMapElement(map, actions, input.design, s, input.host, input.outputFolder);
+        if (params::mapKeyUsable(s))
+            map = params::buildMapElement(actions, input.design, s);
         toolbar.insert(QStringLiteral("mapElement"), map);
     }
     return toolbar;

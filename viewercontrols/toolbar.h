@@ -3,8 +3,6 @@
 
 #include "settings/viewersettings.h"
 
-#include <vantora/host.h>
-
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
@@ -17,9 +15,6 @@ struct ToolbarInput
     int design = 0;           // TBDesign, clamped
     bool noGyroscope = false; // flat mode: no device orientation to steer with
     bool vrCapable = false;   // spherical and a full sphere
-    // Handed on to the map element, which exports its marker pictures through the host.
-    HostContext *host = nullptr;
-    QString outputFolder;
 };
 
 // Builds the toolbar object (gallery, map and gyroscope button append their actions to

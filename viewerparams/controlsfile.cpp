@@ -1,6 +1,7 @@
 #include "controlsfile.h"
 
 #include "contextmenu.h"
+#include "mapelement.h"
 #include "memberwriter.h"
 #include "orientation.h"
 #include "viewercontrols/toolbar.h"
@@ -49,8 +50,6 @@ QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions)
         toolbar.design = flags.design;
         toolbar.noGyroscope = input.flatMode;
         toolbar.vrCapable = input.vrAvailable;
-        toolbar.host = input.host;
-        toolbar.outputFolder = input.outputFolder;
         controls::writeToolbar(root, actions, toolbar);
         root.insert(QStringLiteral("button"), controls::buildFreeButtons(toolbar));
     }
@@ -75,9 +74,10 @@ QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions)
 QJsonObject writeControlsFile(const QString &outputFolder, const QString &controlsFileName,
     const ControlsInput &input, QJsonArray &actions)
 {
-    ControlsInput located = input;
-    located.outputFolder = outputFolder;
-    const QJsonObject root = buildControls(located, actions);
+    const QJsonObject root = buildControls(input, actions);
+    const settings::ViewerSettings &settings = *input.settings;
+    if (settings.AddToolbar && settings.AddMap && mapKeyUsable(settings))
+        exportMapMarkers(input.host, outputFolder);
     writeViewerParamsFile(outputFolder + controlsFileName, root, Layout::Plain);
     return QJsonObject {{QStringLiteral("src"), formattedWithoutArguments(controlsFileName)}};
 }

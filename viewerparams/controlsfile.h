@@ -17,16 +17,13 @@ namespace vantora::params {
 // What the controls file is built from; the parameter-file writer fills it.
 struct ControlsInput
 {
-    HostContext *host = nullptr;
+    HostContext *host = nullptr; // the writer exports the map's marker pictures through it
     // Written to as well: the toolbar design is clamped and stored back, so that every later
     // reader of the settings sees the design that was actually exported.
     settings::ViewerSettings *settings = nullptr;
     plugin::View view;
     bool flatMode = false;
     bool vrAvailable = false; // spherical and a full sphere
-    // Where the map's marker pictures go (ends in a separator; empty: bare file names).
-    // writeControlsFile() sets it to its own output folder.
-    QString outputFolder;
 };
 
 // The flags that select handlers and gates. Clamps TBDesign and stores it back into `settings`.
@@ -35,9 +32,10 @@ EventFlags controlsFlags(settings::ViewerSettings &settings, bool flatMode, bool
 // The controls root. `actions` comes in empty and leaves as stored under "actions".
 QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions);
 
-// Builds the controls root and writes it to outputFolder + controlsFileName in the parameter
-// file's framing. Returns the include object {"src": controlsFileName, "%%" printed as "%"} even
-// when the file cannot be written, as the parameter file names it either way.
+// Builds the controls root, exports the map's marker pictures into outputFolder when the root has
+// a map, and writes the root to outputFolder + controlsFileName in the parameter file's framing.
+// Returns the include object {"src": controlsFileName, "%%" printed as "%"} even when the file
+// cannot be written, as the parameter file names it either way.
 QJsonObject writeControlsFile(const QString &outputFolder, const QString &controlsFileName,
     const ControlsInput &input, QJsonArray &actions);
 

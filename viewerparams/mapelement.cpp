@@ -37,9 +37,22 @@ void exportMarker(HostContext *host, const char *resource, const QString &target
 
 } // namespace
 
-void writeMapElement(QJsonObject &element, QJsonArray &actions, int design,
-    const settings::ViewerSettings &settings, HostContext *host, const QString &outputFolder)
+bool mapKeyUsable(const settings::ViewerSettings &settings)
 {
+    return settings.GmAPIKey.size() >= MIN_MAP_KEY_LENGTH;
+}
+
+void exportMapMarkers(HostContext *host, const QString &outputFolder)
+{
+    resources::ensureRegistered();
+    exportMarker(host, MARKER_RESOURCE, outputFolder + QLatin1String(MARKER_FILE));
+    exportMarker(host, MARKER_ACTIVE_RESOURCE, outputFolder + QLatin1String(MARKER_ACTIVE_FILE));
+}
+
+QJsonObject buildMapElement(
+    QJsonArray &actions, int design, const settings::ViewerSettings &settings)
+{
+    QJsonObject element;
     element.insert(QStringLiteral("align"),
         settings.MapPosition != 0 ? QStringLiteral("leftbottom") : QStringLiteral("lefttop"));
     element.insert(QStringLiteral("apikey"), settings.GmAPIKey);
@@ -67,10 +80,6 @@ void writeMapElement(QJsonObject &element, QJsonArray &actions, int design,
     if (settings.MapHideOnMarker)
         element.insert(QStringLiteral("onmarkerclick"), QLatin1String(MAP_ONMARKERCLICK));
 
-    resources::ensureRegistered();
-    exportMarker(host, MARKER_RESOURCE, outputFolder + QLatin1String(MARKER_FILE));
-    exportMarker(host, MARKER_ACTIVE_RESOURCE, outputFolder + QLatin1String(MARKER_ACTIVE_FILE));
-
     if (settings.MapRadar)
         element.insert(QStringLiteral("radar"),
             QJsonObject {
@@ -82,6 +91,7 @@ void writeMapElement(QJsonObject &element, QJsonArray &actions, int design,
     appendAction(actions, QStringLiteral("toggleMap"), QLatin1String(TOGGLE_MAP));
     appendAction(actions, QStringLiteral("hideMap"), QLatin1String(HIDE_MAP));
     appendAction(actions, QStringLiteral("resizeMap"), QLatin1String(RESIZE_MAP));
+    return element;
 }
 
 } // namespace vantora::params

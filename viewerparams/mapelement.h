@@ -17,10 +17,19 @@ constexpr char MARKER_ACTIVE_RESOURCE[] = ":/marker/BMPS/hotspots/marker/marker_
 constexpr char MARKER_FILE[] = "pap_marker_redorange.png";
 constexpr char MARKER_ACTIVE_FILE[] = "pap_marker_lima.png";
 
-// Fills `element`; appends "toggleMap", "hideMap" and "resizeMap" to `actions`; exports the two
-// marker pictures through the host's resource exporter into `outputFolder` (which ends in a
-// separator, or is empty for bare file names).
-void writeMapElement(QJsonObject &element, QJsonArray &actions, int design,
-    const settings::ViewerSettings &settings, HostContext *host, const QString &outputFolder);
+// Google Maps refuses shorter keys; with one the map stays an empty element.
+constexpr int MIN_MAP_KEY_LENGTH = 10;
+
+// Whether the settings' key is one the map can work with.
+bool mapKeyUsable(const settings::ViewerSettings &settings);
+
+// The map element; appends "toggleMap", "hideMap" and "resizeMap" to `actions`. The element names
+// the marker pictures, which exportMapMarkers() writes.
+QJsonObject buildMapElement(
+    QJsonArray &actions, int design, const settings::ViewerSettings &settings);
+
+// Exports the two marker pictures through the host's resource exporter into `outputFolder` (which
+// ends in a separator, or is empty for bare file names).
+void exportMapMarkers(HostContext *host, const QString &outputFolder);
 
 } // namespace vantora::params

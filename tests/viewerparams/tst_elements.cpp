@@ -93,9 +93,8 @@ void tst_Elements::map()
     s.MapVisible = m.visible;
     s.MapHideOnMarker = m.hideOnMarker;
     s.MapRadar = m.radar;
-    QJsonObject element;
     QJsonArray actions;
-    params::writeMapElement(element, actions, m.design, s, nullptr, QString());
+    const QJsonObject element = params::buildMapElement(actions, m.design, s);
     test::compareMembers(element, m.json);
     QCOMPARE(test::ids(actions), "toggleMap hideMap resizeMap");
     VANTORA_COMPARE_TEXT(actions.at(2)["func"].toString(),
@@ -108,12 +107,9 @@ void tst_Elements::markers()
     // drawn at twice the 30 by 48 pixels the map shows them at.
     HostContext host {};
     host.exportResource = recordExport;
-    settings::ViewerSettings s;
-    QJsonObject element;
-    QJsonArray actions;
     for (const QString &folder : {QStringLiteral("C:\\out\\"), QString()}) {
         exportCalls.clear();
-        params::writeMapElement(element, actions, 0, s, &host, folder);
+        params::exportMapMarkers(&host, folder);
         QCOMPARE(exportCalls,
             QStringList({":/marker/BMPS/hotspots/marker/marker_redorange.png -> " + folder
                     + "pap_marker_redorange.png (60x96)",
