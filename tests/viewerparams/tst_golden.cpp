@@ -94,14 +94,14 @@ void tst_Golden::controlsFile()
     settings::resetViewerSettings(settings, false);
     settings.TBDesign = design;
     settings.Position = design % 4;
-    settings.ShowToolbar = design % 2 == 0;
+    settings.ShowToolbar = design % 3 != 2;
     settings.PlayButton = design != 3;
     settings.ShowToolbarFullscreen = design != 2;
     settings.ShowArrowButtons = design != 5;
     settings.ShowZoomButtons = design != 6;
     settings.ShowInfoBox = true;
     settings.InfoHTML64 = QStringLiteral("<b>Hafen</b>");
-    settings.AddAudioButton = design != 1;
+    settings.AddAudioButton = design != 2;
     settings.Sound = QStringLiteral("wellen.mp3");
     settings.HotspotsButton = true;
     settings.AddGyro = true;
