@@ -1,9 +1,8 @@
 #include "pagewriter.h"
 
+#include "outputstage.h"
 #include "pagetemplates.h"
 #include "paths.h"
-
-#include <QFile>
 
 #include <cstdio>
 
@@ -39,11 +38,7 @@ QByteArray pageText(const PageInput &input)
 
 bool writePage(const QString &pagePath, const PageInput &input)
 {
-    QFile page(pagePath);
-    if (!page.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
-        return false;
-    page.write(pageText(input));
-    return page.flush();
+    return stage::writeTextFile(pagePath, pageText(input));
 }
 
 } // namespace vantora::plugin

@@ -1,5 +1,6 @@
 #include "galleryfile.h"
 
+#include "plugin/outputstage.h"
 #include "plugin/paths.h"
 
 #include <QDir>
@@ -128,12 +129,9 @@ QJsonObject writeGalleryFile(const QString &outputFolder, const QString &gallery
 
     const QJsonObject include {{QStringLiteral("src"), galleryFileName}};
     // Written byte for byte: the layout's line feeds stay line feeds on every platform.
-    QFile file(plugin::toNativeSeparators(outputFolder + galleryFileName));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return include;
-    file.write("VantoraViewerParams = {\n\"vantoraViewer\":\n");
-    file.write(QJsonDocument(QJsonObject {{QStringLiteral("gallery"), gallery}}).toJson());
-    file.write("\n}");
+    plugin::stage::writeFile(plugin::toNativeSeparators(outputFolder + galleryFileName),
+        "VantoraViewerParams = {\n\"vantoraViewer\":\n"
+            + QJsonDocument(QJsonObject {{QStringLiteral("gallery"), gallery}}).toJson() + "\n}");
     return include;
 }
 

@@ -2,8 +2,8 @@
 
 #include "infobox.h"
 #include "plugin/hostaccess.h"
+#include "plugin/outputstage.h"
 #include "plugin/paths.h"
-#include "plugin/platform/platform.h"
 #include "scripttexts.h"
 
 #include <QJsonObject>
@@ -84,10 +84,10 @@ QString exportBitmap(
         return target;
     }
     const QString targetPath = outputFolder + fileName;
-    // A bitmap from a write-protected source would otherwise stay protected in the output and
-    // block the next export into the same folder.
-    if (platform::copyFileReplacing(plugin::toNativeSeparators(bitmapPath), targetPath))
-        platform::clearReadOnly(targetPath);
+    // A bitmap named like one of the export's own files must not replace it. The copy is a new
+    // file, so a write-protected source does not leave it protected for the next export.
+    if (!plugin::stage::isReserved(targetPath))
+        plugin::stage::copyFile(plugin::toNativeSeparators(bitmapPath), targetPath);
     return fileName;
 }
 

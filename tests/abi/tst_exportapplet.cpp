@@ -336,10 +336,15 @@ private slots:
         QCOMPARE(g_log.closes, r.wrote ? 1 : 0);
         QVERIFY(g_log.startArgumentNull);
         QCOMPARE(g_log.closeArgument, r.wrote ? m_host->context() : nullptr);
-        QCOMPARE(QFileInfo::exists(m_out + "vantoViewer.js"), r.wrote);
+        // A failed export leaves the folder as it was; what the host's tile writer did there
+        // is the host's own business.
+        QCOMPARE(QFileInfo::exists(m_out + "vantoViewer.js"), r.result == 0);
         QCOMPARE(readText(page).startsWith("<!DOCTYPE HTML>"), r.pageWritten);
-        if (!r.wrote)
-            QCOMPARE(entriesBelow(m_out), before);
+        const auto library = [](QStringList entries) {
+            return entries.filter(QRegularExpression("^(?!tour_tiles)"));
+        };
+        if (r.result != 0)
+            QCOMPARE(library(entriesBelow(m_out)), library(before));
         // The page path goes back to the host only after a successful run.
         QCOMPARE(m_host->pathText(), r.result == 0 ? page : QString());
         QCOMPARE(m_host->hostBytesChanged(0xA5), QString());

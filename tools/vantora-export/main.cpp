@@ -136,7 +136,9 @@ int main(int argc, char *argv[])
         exportMs += clock.elapsed();
         tilesMs += host.tiles().elapsedMs;
         progress.finish();
-        if (outcome.result != VANTORA_WRITE_DONE || outcome.pagePath.isEmpty()) {
+        const bool exported = outcome.result == VANTORA_WRITE_DONE && !outcome.pagePath.isEmpty();
+        host.finishTiles(exported);
+        if (!exported) {
             // A failed export leaves nothing of this run behind.
             removeNewFiles(folder, before);
             removeCreatedFolders(plan);
