@@ -12,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -48,6 +49,11 @@ void filterQtMessages(QtMsgType type, const QMessageLogContext &context, const Q
 {
     if (type == QtWarningMsg && message.startsWith(QLatin1String("QStandardPaths:")))
         return;
+    // The library names each file it could not write on its logging category.
+    if (qstrcmp(context.category, "vantora.export") == 0) {
+        QTextStream(stderr) << "vantora-export: " << message << '\n';
+        return;
+    }
     if (standardHandler)
         standardHandler(type, context, message);
     else
@@ -62,6 +68,7 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     standardHandler = qInstallMessageHandler(filterQtMessages);
+    QLoggingCategory::setFilterRules(QStringLiteral("vantora.export.warning=true"));
     QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vantora-export"));
     // The map markers the library asks the host to export are the library's own pictures; the
