@@ -1,20 +1,55 @@
 #include "pagewriter.h"
 
+#include "cformat.h"
 #include "outputstage.h"
 #include "pagetemplates.h"
 #include "paths.h"
 
-#include <cstdio>
-
 namespace vantora::plugin {
 namespace {
 
-template <typename... Args> QByteArray format(const char *pattern, Args... args)
+// A file name inside a double-quoted string of the page's inline script: nothing in it may end
+// the string or the script element. Ordinary names pass unchanged.
+QString forScriptString(const QString &name)
 {
-    const int length = std::snprintf(nullptr, 0, pattern, args...);
-    QByteArray text(length, Qt::Uninitialized);
-    std::snprintf(text.data(), size_t(length) + 1, pattern, args...);
-    return text;
+    QString escaped;
+    for (const QChar c : name) {
+        switch (c.unicode()) {
+        case '\\':
+            escaped += QLatin1String("\\\\");
+            break;
+        case '"':
+            escaped += QLatin1String("\\\"");
+            break;
+        case '<':
+            escaped += QLatin1String("\\u003C");
+            break;
+        case '>':
+            escaped += QLatin1String("\\u003E");
+            break;
+        case '\n':
+            escaped += QLatin1String("\\n");
+            break;
+        case '\r':
+            escaped += QLatin1String("\\r");
+            break;
+        case 0x2028:
+            escaped += QLatin1String("\\u2028");
+            break;
+        case 0x2029:
+            escaped += QLatin1String("\\u2029");
+            break;
+        default:
+            escaped += c;
+        }
+    }
+    return escaped;
+}
+
+// A path inside a double-quoted attribute value. Ordinary names pass unchanged.
+QString forAttribute(const QString &path)
+{
+    return path.toHtmlEscaped();
 }
 
 } // namespace
@@ -23,16 +58,16 @@ QByteArray pageText(const PageInput &input)
 {
     const QString base = withoutExtension(fileNamePart(input.nameForBase));
     // Relative to the page, so the folder moves with it.
-    const QByteArray thumbnail = (base + QStringLiteral("_tiles") + nativeSeparator() + base
-        + QStringLiteral("_thumb.jpg"))
+    const QByteArray thumbnail = forAttribute(
+        base + QStringLiteral("_tiles") + nativeSeparator() + base + QStringLiteral("_thumb.jpg"))
                                      .toUtf8();
     const QByteArray title = input.title.toUtf8();
-    const QByteArray params = input.paramsFile.toUtf8();
+    const QByteArray params = forScriptString(input.paramsFile).toUtf8();
     const char *options = input.showWebGLWarning ? "" : NO_WEBGL_WARNING_OPTION;
     if (input.fitToPage)
-        return format(FULL_WINDOW_PAGE, thumbnail.constData(), title.constData(),
+        return cFormat(FULL_WINDOW_PAGE, thumbnail.constData(), title.constData(),
             params.constData(), options);
-    return format(FIXED_SIZE_PAGE, thumbnail.constData(), title.constData(), input.pageHeight,
+    return cFormat(FIXED_SIZE_PAGE, thumbnail.constData(), title.constData(), input.pageHeight,
         input.pageWidth, input.pageHeight, params.constData(), options);
 }
 

@@ -1,6 +1,7 @@
 #include "inivalues.h"
 
 #include "inifile.h"
+#include "plugin/cformat.h"
 #include "plugin/exportlog.h"
 #include "plugin/outputstage.h"
 
@@ -26,7 +27,7 @@ double doubleFromIniText(const QString &text, double defaultValue)
 
 QString iniTextOfDouble(double value)
 {
-    return QString::asprintf("%.4f", value);
+    return plugin::cFormatText("%.4f", value);
 }
 
 QString codedIniText(const QString &text)
