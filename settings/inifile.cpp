@@ -1,6 +1,7 @@
 #include "inifile.h"
 
 #include <QFile>
+#include <QTextCodec>
 
 #include <vector>
 
@@ -79,6 +80,14 @@ QString unquoted(const QString &value)
     return value;
 }
 
+// All of the bytes as UTF-8: a further byte-order mark stays a character, and a NUL does not end
+// the text.
+QString fromUtf8(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+}
+
 // Valid UTF-8 holding at least one character beyond ASCII: text a UTF-8 editor saved.
 bool isUtf8BeyondAscii(const QByteArray &bytes)
 {
@@ -124,10 +133,10 @@ IniText decode(const QByteArray &bytes)
         }
     } else if (startsWith("\xEF\xBB\xBF")) {
         ini.encoding = Encoding::Utf8Bom;
-        ini.text = QString::fromUtf8(bytes.mid(3));
+        ini.text = fromUtf8(bytes.mid(3));
     } else if (isUtf8BeyondAscii(bytes)) {
         ini.encoding = Encoding::Utf8;
-        ini.text = QString::fromUtf8(bytes);
+        ini.text = fromUtf8(bytes);
     } else {
         ini.text = QString::fromLatin1(bytes);
     }

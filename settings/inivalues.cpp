@@ -75,9 +75,14 @@ void IniEdit::set(const QString &section, const QString &key, const QString &val
     m_changed = true;
 }
 
+QByteArray IniEdit::bytes() const
+{
+    return m_changed ? ini::encode(m_ini) : m_bytes;
+}
+
 bool IniEdit::write(const QString &path) const
 {
-    return plugin::writeFileAtomically(path, ini::encode(m_ini));
+    return plugin::writeFileAtomically(path, bytes());
 }
 
 namespace {

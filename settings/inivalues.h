@@ -35,6 +35,8 @@ class IniEdit
 public:
     explicit IniEdit(const QByteArray &bytes);
     void set(const QString &section, const QString &key, const QString &value, bool stringKey);
+    // The file's bytes as they now stand.
+    QByteArray bytes() const;
     // Replaces the file in one step; false (and a logged line) when it cannot be written.
     bool write(const QString &path) const;
 

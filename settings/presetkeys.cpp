@@ -1,6 +1,7 @@
 #include "presetkeys.h"
 
 #include "inivalues.h"
+#include "plugin/outputstage.h"
 
 #include <variant>
 
@@ -214,12 +215,8 @@ bool PresetValues::operator==(const PresetValues &other) const
     return true;
 }
 
-PresetValues readPresetValues(const QString &path, bool *readable)
+PresetValues presetValuesFromBytes(const QByteArray &bytes)
 {
-    QByteArray bytes;
-    const bool read = readIniBytes(path, &bytes);
-    if (readable)
-        *readable = read;
     const PresetFile file(ini::decode(bytes));
     PresetValues values;
     for (const PresetKey &k : PRESET_KEYS)
@@ -227,17 +224,30 @@ PresetValues readPresetValues(const QString &path, bool *readable)
     return values;
 }
 
+PresetValues readPresetValues(const QString &path, bool *readable)
+{
+    QByteArray bytes;
+    const bool read = readIniBytes(path, &bytes);
+    if (readable)
+        *readable = read;
+    return presetValuesFromBytes(bytes);
+}
+
+QByteArray presetFileBytes(const QByteArray &existing, const PresetValues &values)
+{
+    IniEdit ini(existing);
+    for (const PresetKey &k : PRESET_KEYS)
+        writeKey(ini, k, values);
+    return ini.bytes();
+}
+
 bool writePresetValues(const QString &path, const PresetValues &values)
 {
     // The whole file is built first and written once: a preset is the old one or the new one,
     // never a mixture, whenever the writing stops.
     QByteArray bytes;
-    if (!readIniBytes(path, &bytes))
-        return false;
-    IniEdit ini(bytes);
-    for (const PresetKey &k : PRESET_KEYS)
-        writeKey(ini, k, values);
-    return ini.write(path);
+    return readIniBytes(path, &bytes)
+        && plugin::writeFileAtomically(path, presetFileBytes(bytes, values));
 }
 
 } // namespace vantora::settings

@@ -100,6 +100,11 @@ void forEachPresetField(const std::function<void(const char *, PresetField)> &vi
 // defaults; a file that exists but cannot be read gives them too, with *readable set to false.
 PresetValues readPresetValues(const QString &path, bool *readable = nullptr);
 
+// The same for a preset file's bytes.
+PresetValues presetValuesFromBytes(const QByteArray &bytes);
+// The bytes of the preset file `existing` once every key is written (the file is not touched).
+QByteArray presetFileBytes(const QByteArray &existing, const PresetValues &values);
+
 // Writes every key in the file's order; empty texts of the keys that are written only when set are
 // left out. The file is replaced in one write. False when it could not be read or written.
 bool writePresetValues(const QString &path, const PresetValues &values);

@@ -1,7 +1,7 @@
 # The fuzz tests of the main project: build the clang project beside the main build, then run
 # each target for a bounded time (label fuzz). VANTORA_FUZZ_SECONDS sets the time per target.
 find_program(VANTORA_CLANGXX NAMES clang++ clang++-14)
-set(VANTORA_FUZZ_SECONDS 25 CACHE STRING "Seconds each fuzz target runs in the test suite")
+set(VANTORA_FUZZ_SECONDS 15 CACHE STRING "Seconds each fuzz target runs in the test suite")
 set(fuzz_source ${CMAKE_CURRENT_LIST_DIR})
 set(fuzz_build ${CMAKE_BINARY_DIR}/fuzz)
 
@@ -10,12 +10,12 @@ add_test(NAME fuzz_build
           -DCXX=${VANTORA_CLANGXX} -P ${fuzz_source}/runfuzzer.cmake)
 set_tests_properties(fuzz_build PROPERTIES LABELS fuzz FIXTURES_SETUP fuzzers)
 
-foreach(target settingsblock inifile)
-  if(target STREQUAL "settingsblock")
-    set(seeds ${PROJECT_SOURCE_DIR}/tests/data/blocks)
-  else()
-    set(seeds ${PROJECT_SOURCE_DIR}/tests/data/ini)
-  endif()
+set(seeds_settingsblock ${PROJECT_SOURCE_DIR}/tests/data/blocks)
+set(seeds_inifile ${PROJECT_SOURCE_DIR}/tests/data/ini)
+set(seeds_presets ${PROJECT_SOURCE_DIR}/tests/data/ini)
+set(seeds_hotspotfile ${PROJECT_SOURCE_DIR}/tests/data/hotspots)
+foreach(target settingsblock inifile presets hotspotfile)
+  set(seeds ${seeds_${target}})
   add_test(NAME fuzz_${target}
     COMMAND ${CMAKE_COMMAND} -DMODE=run -DFUZZER=${fuzz_build}/fuzz_${target}
             -DCORPUS=${fuzz_build}/corpus_${target} -DSEEDS=${seeds}

@@ -6,10 +6,9 @@
 # (root); exits 77 (skipped) where it cannot.
 set -euo pipefail
 tool=$1 work=$2
-mkdir -p "$work"
 disk=$work/disk
 umount "$disk" 2>/dev/null || true
-rm -rf "$work/pictures" "$disk" && mkdir -p "$work/pictures" "$disk"
+rm -rf "$work" && mkdir -p "$work/pictures" "$disk"
 if ! mount -t tmpfs -o size=4m tmpfs "$disk" 2>/dev/null; then
   echo "skipped: cannot mount a small tmpfs here (needs root and mount rights)"
   exit 77
