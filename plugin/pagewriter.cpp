@@ -5,43 +5,41 @@
 #include "pagetemplates.h"
 #include "paths.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace vantora::plugin {
 namespace {
 
-// A file name inside a double-quoted string of the page's inline script: nothing in it may end
-// the string or the script element. Ordinary names pass unchanged.
+// What replaces each character of a file name that could end the page's inline script string
+// or its script element.
+constexpr struct
+{
+    char16_t character;
+    const char *escape;
+} SCRIPT_ESCAPES[] = {
+    {u'\\', "\\\\"},
+    {u'"', "\\\""},
+    {u'<', "\\u003C"},
+    {u'>', "\\u003E"},
+    {u'\n', "\\n"},
+    {u'\r', "\\r"},
+    {u'\u2028', "\\u2028"},
+    {u'\u2029', "\\u2029"},
+};
+
+// A file name inside a double-quoted string of the inline script. Ordinary names pass unchanged.
 QString forScriptString(const QString &name)
 {
     QString escaped;
     for (const QChar c : name) {
-        switch (c.unicode()) {
-        case '\\':
-            escaped += QLatin1String("\\\\");
-            break;
-        case '"':
-            escaped += QLatin1String("\\\"");
-            break;
-        case '<':
-            escaped += QLatin1String("\\u003C");
-            break;
-        case '>':
-            escaped += QLatin1String("\\u003E");
-            break;
-        case '\n':
-            escaped += QLatin1String("\\n");
-            break;
-        case '\r':
-            escaped += QLatin1String("\\r");
-            break;
-        case 0x2028:
-            escaped += QLatin1String("\\u2028");
-            break;
-        case 0x2029:
-            escaped += QLatin1String("\\u2029");
-            break;
-        default:
+        const auto *end = std::end(SCRIPT_ESCAPES);
+        const auto *rule = std::find_if(std::begin(SCRIPT_ESCAPES), end,
+            [c](const auto &entry) { return entry.character == c.unicode(); });
+        if (rule == end)
             escaped += c;
-        }
+        else
+            escaped += QLatin1String(rule->escape);
     }
     return escaped;
 }

@@ -6,10 +6,6 @@
 
 namespace vantora::platform {
 
-// Copies `from` to `to`, replacing an existing file. False when the copy failed; copying a file
-// onto itself succeeds and leaves it alone.
-bool copyFileReplacing(const QString &from, const QString &to);
-
 // Writes `bytes` into a new file at `path` and flushes it to the disk. Whatever had that name
 // before (a file or a link) is removed first; a link is never followed. On failure the partial
 // file is removed and false returned.
@@ -28,9 +24,6 @@ bool isLink(const QString &path);
 
 // The bytes of a text as a text-mode file holds them: line feeds become the platform's line end.
 QByteArray withPlatformLineEnds(const QByteArray &text);
-
-// Removes the read-only attribute of `path` (a copy of a read-only original stays writable).
-void clearReadOnly(const QString &path);
 
 // Opens `path` with the system's default handler for its type, in a normal window.
 void openWithDefaultHandler(const QString &path);

@@ -105,38 +105,6 @@ QByteArray withPlatformLineEnds(const QByteArray &text)
     return text;
 }
 
-bool copyFileReplacing(const QString &from, const QString &to)
-{
-    const QFileInfo source(from);
-    if (!source.isFile() || QFileInfo(to).isDir())
-        return false;
-    // Replacing the target first would destroy the source when both name the same file.
-    if (!isLink(to) && QFileInfo(to).exists()
-        && source.canonicalFilePath() == QFileInfo(to).canonicalFilePath())
-        return true;
-    QFile input(from);
-    if (!input.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray bytes = input.readAll();
-    if (input.error() != QFileDevice::NoError)
-        return false;
-    // Written beside the target first, so a failed copy never leaves the old file half-replaced.
-    const QString partial = to + QStringLiteral(".vantora-part");
-    if (!writeNewFile(partial, bytes))
-        return false;
-    if (!replaceFile(partial, to)) {
-        removeFile(partial);
-        return false;
-    }
-    return true;
-}
-
-void clearReadOnly(const QString &path)
-{
-    QFile file(path);
-    file.setPermissions(file.permissions() | QFileDevice::WriteOwner | QFileDevice::WriteUser);
-}
-
 void openWithDefaultHandler(const QString &path)
 {
     QDesktopServices::openUrl(QUrl::fromLocalFile(path));

@@ -92,27 +92,6 @@ QByteArray withPlatformLineEnds(const QByteArray &text)
     return lines.replace("\n", "\r\n");
 }
 
-bool copyFileReplacing(const QString &from, const QString &to)
-{
-    // Copied beside the target, then moved over it: a failed copy leaves the old file whole.
-    const QString partial = to + QStringLiteral(".vantora-part");
-    if (!removeFile(partial) || !CopyFileW(wide(from), wide(partial), FALSE))
-        return false;
-    clearReadOnly(partial);
-    if (!replaceFile(partial, to)) {
-        removeFile(partial);
-        return false;
-    }
-    return true;
-}
-
-void clearReadOnly(const QString &path)
-{
-    const DWORD attributes = GetFileAttributesW(wide(path));
-    if (attributes != INVALID_FILE_ATTRIBUTES)
-        SetFileAttributesW(wide(path), attributes & ~DWORD(FILE_ATTRIBUTE_READONLY));
-}
-
 void openWithDefaultHandler(const QString &path)
 {
     ShellExecuteW(nullptr, L"open", wide(path), nullptr, nullptr, SW_SHOWNORMAL);
