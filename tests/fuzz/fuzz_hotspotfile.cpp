@@ -17,6 +17,13 @@ QString g_folder;
 
 } // namespace
 
+// Full stacks for every allocation, so that the suppression of Qt's own JSON leak (lsan.supp) can
+// see the parser's frame.
+extern "C" const char *__asan_default_options()
+{
+    return "fast_unwind_on_malloc=0";
+}
+
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
     static QTemporaryDir folder;

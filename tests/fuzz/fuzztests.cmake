@@ -21,5 +21,5 @@ foreach(target settingsblock inifile presets hotspotfile)
             -DCORPUS=${fuzz_build}/corpus_${target} -DSEEDS=${seeds}
             -DSECONDS=${VANTORA_FUZZ_SECONDS} -P ${fuzz_source}/runfuzzer.cmake)
   set_tests_properties(fuzz_${target} PROPERTIES LABELS fuzz FIXTURES_REQUIRED fuzzers
-    ENVIRONMENT "UBSAN_OPTIONS=print_stacktrace=1;ASAN_OPTIONS=detect_leaks=1")
+    ENVIRONMENT "UBSAN_OPTIONS=print_stacktrace=1;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${fuzz_source}/lsan.supp")
 endforeach()
