@@ -108,8 +108,11 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         QStringLiteral("Largest source picture accepted, in pixels (1000000000); its header "
                        "is checked before any tile is cut."),
         QStringLiteral("COUNT"), QStringLiteral("1000000000"));
+    const QCommandLineOption interactive(QStringLiteral("interactive"),
+        QStringLiteral("Shows the library's export dialog on the desktop, as a panorama "
+                       "application does: OUT.html is only proposed there. One image at most."));
     parser.addOptions({help, output, flat, hextent, vextent, quality, maxPixels, pageSize, fit,
-        hotspots, location, settingsFile, title, install, library});
+        hotspots, location, settingsFile, title, install, library, interactive});
 
     auto error = [message](const QString &text) {
         *message = text;
@@ -187,6 +190,9 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
     options->installFolder = QDir::toNativeSeparators(
         QFileInfo(parser.value(install)).absoluteFilePath() + QLatin1Char('/'));
     options->libraryPath = parser.value(library);
+    options->interactive = parser.isSet(interactive);
+    if (options->interactive && options->images.size() > 1)
+        return error(QStringLiteral("--interactive exports one image at a time"));
     return ParseResult::Run;
 }
 

@@ -381,6 +381,7 @@ private Q_SLOTS:
             {"page size",          "-o @/out/x.html --page-size 800",       "--page-size must be WIDTHxHEIGHT"},
             {"vextent 200",        "-o @/out/x.html --vextent 200",         "--vextent must be above 0 and at most 180"},
             {"location",           "-o @/out/x.html --location 91,10",      "--location must be LAT,LNG[,NORTH]"},
+            {"interactive tour",   "@/good.jpg @/sub/good.jpg -o @/out/x.html --interactive", "--interactive exports one image at a time"},
             {"two pages one name", "@/good.jpg @/sub/good.jpg -o @/out/good.html", "good.html and good.html would write the same files (good.*)"},
             {"one base name",      "@/good.jpg @/x.1.jpg @/x.2.jpg -o @/out/a.html", "x.1.html and x.2.html would write the same files (x.*)"},
             {"a page's controls",  "@/good.jpg @/good_controls.jpg -o @/out/good.html", "good.html and good_controls.html would write the same files (good_controls.*)"},
