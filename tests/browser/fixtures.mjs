@@ -1,0 +1,88 @@
+// Test pictures and exports for the browser tests. Every panorama but the sample is a colour
+// gradient: red grows with the pan from the left edge and green with the distance from the top
+// edge, so the colour of the centre pixel measures the view.
+import fs from 'node:fs';
+import path from 'node:path';
+import { execFileSync } from 'node:child_process';
+
+// Writes a binary PPM picture of width x height whose red and green encode the column and row.
+export function writeGradient(file, width, height, blue = 96) {
+  const header = Buffer.from(`P6\n${width} ${height}\n255\n`, 'ascii');
+  const pixels = Buffer.alloc(width * height * 3);
+  for (let y = 0; y < height; y++) {
+    const g = Math.round(((y + 0.5) / height) * 255);
+    for (let x = 0; x < width; x++) {
+      const i = (y * width + x) * 3;
+      pixels[i] = Math.round(((x + 0.5) / width) * 255);
+      pixels[i + 1] = g;
+      pixels[i + 2] = blue;
+    }
+  }
+  fs.writeFileSync(file, Buffer.concat([header, pixels]));
+}
+
+// Runs the reference host; returns the page's folder-relative name.
+export function exportPage(tool, args) {
+  execFileSync(tool, args, { stdio: ['ignore', 'ignore', 'inherit'] });
+}
+
+// Reads a viewer file the way the viewer does: the text after "VantoraViewerParams = " is JSON.
+export function readParams(file) {
+  const text = fs.readFileSync(file, 'utf8');
+  return JSON.parse(text.slice(text.indexOf('=') + 1)).vantoraViewer;
+}
+
+function presetFile(dir, name, lines) {
+  const file = path.join(dir, name);
+  fs.writeFileSync(file, `[Applet]\r\n${lines.join('\r\n')}\r\n`);
+  return file;
+}
+
+// Exports every page the tests open into `work`; returns their descriptions.
+export function buildFixtures(tool, work) {
+  fs.rmSync(work, { recursive: true, force: true });
+  fs.mkdirSync(work, { recursive: true });
+  const src = path.join(work, 'src');
+  fs.mkdirSync(src);
+  const pic = (name, w, h, blue) => {
+    const file = path.join(src, `${name}.ppm`);
+    writeGradient(file, w, h, blue);
+    return file;
+  };
+  const out = (folder, page) => path.join(work, folder, page);
+
+  exportPage(tool, ['-o', out('sample', 'sample.html')]);
+  exportPage(tool, [pic('big', 6000, 3000), '-o', out('big', 'big.html')]);
+  exportPage(tool, [pic('partial', 1200, 400), '--hextent', '120', '--vextent', '40', '-o', out('partial', 'partial.html')]);
+  exportPage(tool, [pic('tiny', 10, 5), '-o', out('tiny', 'tiny.html')]);
+  exportPage(tool, [pic('flat', 3000, 2000), '--flat', '-o', out('flat', 'flat.html')]);
+
+  const autoplay = presetFile(src, 'autoplay.ini', ['AutoPlay=1', 'PanRate=30.0000', 'TiltRate=0.0000', 'ZoomRate=0.0000', 'Restart=0']);
+  exportPage(tool, [pic('turn', 2048, 1024), '--settings', autoplay, '-o', out('autoplay', 'turn.html')]);
+
+  // A tour of two panoramas with ".js" parameter files and the WebGL notice switched off: the hall
+  // has an info hotspot left of its start view and a link to the garden right of it.
+  const hotspots = path.join(src, 'hotspots.json');
+  fs.writeFileSync(hotspots, JSON.stringify({
+    hotspots: [
+      { page: 'hall', type: 'info', pan: 165, tilt: 0, bitmap: ':/hotspots/info.png', tooltip: 'About the hall', text: '<b>Built in 1890</b>' },
+      { page: 'hall', type: 'link', pan: 195, tilt: 0, bitmap: ':/hotspots/link.png', tooltip: 'To the garden', url: 'garden.html' },
+    ],
+  }));
+  const tour = presetFile(src, 'tour.ini', ['ExtensionJS=1', 'ShowWebGLWarning=0']);
+  exportPage(tool, [pic('hall', 2048, 1024, 32), pic('garden', 2048, 1024, 224), '--settings', tour,
+    '--hotspots', hotspots, '--title', 'Great Hall', '-o', out('tour', 'hall.html')]);
+
+  // Pages of our own around exported files: one whose parameter file is missing, one whose
+  // parameter file is not a viewer file.
+  const errors = path.join(work, 'errors');
+  fs.mkdirSync(errors);
+  const page = (params) => `<!DOCTYPE HTML><html><head><meta charset="UTF-8"></head><body>
+<div id="vantoViewerID" style="position:absolute;left:0;top:0;width:100%;height:100%"></div>
+<script src="vantoViewer.js"></script><script>vantoViewer.insert("vantoViewerID","${params}",{});</script></body></html>`;
+  fs.copyFileSync(path.join(work, 'tiny', 'vantoViewer.js'), path.join(errors, 'vantoViewer.js'));
+  fs.writeFileSync(path.join(errors, 'missing.html'), page('missing.json'));
+  fs.writeFileSync(path.join(errors, 'broken.html'), page('broken.json'));
+  fs.writeFileSync(path.join(errors, 'broken.json'), 'VantoraViewerParams = {"vantoraViewer": {"node": ');
+  return work;
+}

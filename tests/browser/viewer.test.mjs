@@ -1,0 +1,209 @@
+// The viewer in Chromium: exports pages with the reference host and opens each from disk and
+// over a loopback server, waiting on the viewer's `ready`.
+//
+//   node viewer.test.mjs TOOL WORKDIR NODE_MODULES
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import fs from 'node:fs';
+import { pathToFileURL } from 'node:url';
+import { buildFixtures, readParams } from './fixtures.mjs';
+import { startServer } from './server.mjs';
+import { launchBrowser, openViewer, pixels, waitReady } from './browser.mjs';
+
+const [tool, work, modules] = process.argv.slice(2);
+if (!tool || !work || !modules) {
+  console.error('usage: node viewer.test.mjs TOOL WORKDIR NODE_MODULES');
+  process.exit(2);
+}
+
+const W = 800;
+const H = 600;
+const CENTRE = [W / 2, H / 2];
+
+// Pan and tilt that a gradient colour encodes, for a picture of hextent x vextent degrees.
+function measure([r, g], frame) {
+  return { pan: (r / 255) * frame.hextent, tilt: frame.vextent / 2 - (g / 255) * frame.vextent };
+}
+
+function near(actual, expected, tolerance, what) {
+  assert.ok(Math.abs(actual - expected) <= tolerance, `${what}: ${actual.toFixed(2)} is not ${expected} ± ${tolerance}`);
+}
+
+const viewerCall = (page, fn, arg) => page.evaluate(({ body, a }) => {
+  const v = vantoViewer.get('vantoViewerID');
+  return new Function('v', 'a', body)(v, a);
+}, { body: fn, a: arg });
+
+// Waits until the viewer has drawn a complete frame of its current view.
+const settled = (page) => page.evaluate(() => vantoViewer.get('vantoViewerID').settled().then(() => true));
+
+async function centreView(page, frame) {
+  const [c] = await pixels(page, [CENTRE]);
+  return measure(c, frame);
+}
+
+function frameOf(params) {
+  const image = params.node.image;
+  return { hextent: image.hextent, vextent: image.vextent };
+}
+
+// Checks, each given { page, params, transport, errors }.
+const CHECKS = {
+  async startView({ page, params }) {
+    const view = await centreView(page, frameOf(params));
+    near(view.pan, params.node.view.pan, 3, 'pan at the centre');
+    near(view.tilt, params.node.view.tilt, 3, 'tilt at the centre');
+  },
+  async setView({ page, params }) {
+    await viewerCall(page, 'v.setView(90, 30, 60);');
+    await settled(page);
+    const view = await centreView(page, frameOf(params));
+    near(view.pan, 90, 3, 'pan after setView');
+    near(view.tilt, 30, 3, 'tilt after setView');
+  },
+  async limits({ page, params }) {
+    const cam = params.node.camera;
+    for (const [pan, tilt] of [[-500, 80], [500, -80], [0, 0]]) {
+      await viewerCall(page, 'v.setView(a[0], a[1], 140);', [pan, tilt]);
+      await settled(page);
+      const view = await viewerCall(page, 'return v.getView();');
+      assert.ok(view.pan - view.hfov / 2 >= cam.minpan - 0.01 && view.pan + view.hfov / 2 <= cam.maxpan + 0.01,
+        `pan ${view.pan} with hfov ${view.hfov} leaves ${cam.minpan}..${cam.maxpan}`);
+      const corners = await pixels(page, [[2, 2], [W - 3, 2], [2, H - 3], [W - 3, H - 3]]);
+      for (const c of corners) assert.ok(c[0] + c[1] + c[2] > 40, `a corner shows no picture (${c}) at ${pan},${tilt}`);
+    }
+  },
+  async fitsWindow({ page }) {
+    // 3000 x 2000 in 800 x 600: 800 x 533 in the middle, bars above and below.
+    const [centre, bar, topLeft, bottomRight] = await pixels(page, [CENTRE, [W / 2, 10], [4, 38], [W - 5, H - 38]]);
+    near(centre[0], 128, 6, 'red at the centre');
+    near(centre[1], 128, 6, 'green at the centre');
+    assert.ok(bar[0] + bar[1] + bar[2] < 20, `the bar above the picture is not black (${bar})`);
+    assert.ok(topLeft[0] < 12 && topLeft[1] < 12, `top left corner of the picture (${topLeft})`);
+    assert.ok(bottomRight[0] > 243 && bottomRight[1] > 243, `bottom right corner of the picture (${bottomRight})`);
+  },
+  async showsPicture({ page }) {
+    const [c] = await pixels(page, [CENTRE]);
+    assert.ok(c[0] + c[1] + c[2] > 40, `the centre is black (${c})`);
+  },
+  async title({ page, params }) {
+    const shown = await page.locator('.vanto-textbox').allInnerTexts();
+    assert.ok(shown.includes(params.node.textbox[0].text), `title not shown: ${JSON.stringify(shown)}`);
+  },
+  async infoHotspot({ page }) {
+    const info = page.locator('.vanto-hotspot').filter({ has: page.locator('img[alt="About the hall"]') });
+    await info.click();
+    const box = page.locator('.vanto-textbox', { hasText: 'Built in 1890' });
+    await box.waitFor({ state: 'visible' });
+    assert.match(await viewerCall(page, 'return v.currentMBId;'), /^hsinfo\d+$/);
+    await box.click();
+    await box.waitFor({ state: 'detached' });
+    assert.equal(await viewerCall(page, 'return v.currentMBId;'), null);
+  },
+  async linkHotspot({ page }) {
+    await page.locator('.vanto-hotspot').filter({ has: page.locator('img[alt="To the garden"]') }).click();
+    await page.waitForURL(/garden\.html$/);
+    assert.equal(await waitReady(page), 'ready');
+    const [c] = await pixels(page, [CENTRE]);
+    near(c[2], 224, 12, 'blue of the garden at the centre');
+  },
+  async autoplay({ page }) {
+    assert.equal(await viewerCall(page, 'return v.isPlaying();'), true);
+    const start = (await viewerCall(page, 'return v.getView();')).pan;
+    await page.waitForFunction((p) => Math.abs(vantoViewer.get('vantoViewerID').getView().pan - p) > 3, start);
+    const box = await page.locator('#vantoViewerID').boundingBox();
+    await page.mouse.move(box.x + W / 2, box.y + H / 2);
+    await page.mouse.down();
+    await page.mouse.up();
+    assert.equal(await viewerCall(page, 'return v.isPlaying();'), false);
+    const stopped = (await viewerCall(page, 'return v.getView();')).pan;
+    await page.evaluate(() => new Promise((r) => { let n = 20; const f = () => (--n ? requestAnimationFrame(f) : r()); f(); }));
+    near((await viewerCall(page, 'return v.getView();')).pan, stopped, 0.01, 'pan after input');
+  },
+  async errorShown({ page, outcome, name }) {
+    assert.match(outcome, /^failed: /);
+    const message = await page.locator('#vantoViewerID .vanto-error').innerText();
+    assert.ok(message.includes(`${name}.json`), `message "${message}" does not name the file`);
+  },
+};
+
+// Pages, the ways they are opened, and what each must show.
+const CASES = [
+  { dir: 'sample', page: 'sample.html', via: ['file', 'http', 'nosniff'], checks: ['showsPicture'] },
+  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView'] },
+  { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits'] },
+  { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture'] },
+  { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow'] },
+  { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
+  { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'infoHotspot', 'linkHotspot'] },
+  { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
+  { dir: 'errors', page: 'broken.html', via: ['file', 'nosniff'], checks: ['errorShown'], failure: 'broken' },
+];
+
+function paramsOf(dir, page) {
+  const html = fs.readFileSync(path.join(work, dir, page), 'utf8');
+  const [, file, options] = html.match(/vantoViewer\.insert\("vantoViewerID","([^"]+)",\{(.*)\}\);/);
+  let params = null;
+  try {
+    params = readParams(path.join(work, dir, file));
+  } catch (e) {
+    // The error pages' files are missing or broken on purpose.
+  }
+  return { params, noticeOff: options.includes('disable_webgl_warning') };
+}
+
+async function main() {
+  const started = Date.now();
+  buildFixtures(tool, work);
+  console.log(`fixtures exported in ${((Date.now() - started) / 1000).toFixed(1)} s`);
+  const servers = { http: await startServer(work), nosniff: await startServer(work, { nosniff: true }) };
+  const browser = await launchBrowser(modules);
+  let failures = 0;
+  try {
+    const probe = await browser.context.newPage();
+    await probe.goto(`${servers.http.url}/tiny/tiny.html`);
+    const renderer = await probe.evaluate(() => {
+      const gl = document.createElement('canvas').getContext('webgl');
+      const info = gl && gl.getExtension('WEBGL_debug_renderer_info');
+      return info ? gl.getParameter(info.UNMASKED_RENDERER_WEBGL) : String(gl && gl.getParameter(gl.RENDERER));
+    });
+    console.log(`WebGL renderer: ${renderer}`);
+    assert.match(renderer, /SwiftShader/i, 'software WebGL expected');
+    await probe.close();
+
+    for (const c of CASES) {
+      const { params, noticeOff } = paramsOf(c.dir, c.page);
+      for (const via of c.via) {
+        const url = via === 'file' ? pathToFileURL(path.join(work, c.dir, c.page)).href : `${servers[via].url}/${c.dir}/${c.page}`;
+        const label = `${c.dir}/${c.page} over ${via}`;
+        let opened;
+        try {
+          opened = await openViewer(browser.context, url, { expectFailure: !!c.failure });
+          const { page, errors, outcome } = opened;
+          if (!c.failure) {
+            const webgl = await viewerCall(page, 'return v.webglAvailable;');
+            assert.equal(webgl, via !== 'file', 'WebGL used exactly where pixels of the tiles may be read');
+            const notices = await page.locator('.vanto-notice').count();
+            assert.equal(notices, !webgl && !noticeOff ? 1 : 0, 'WebGL notice');
+          }
+          for (const check of c.checks) await CHECKS[check]({ page, params, via, errors, outcome, name: c.failure });
+          if (!c.failure) assert.deepEqual(errors, [], 'errors in the page');
+          console.log(`ok   ${label}: ${c.checks.join(', ')}`);
+        } catch (e) {
+          failures++;
+          console.log(`FAIL ${label}: ${e.message}`);
+        } finally {
+          if (opened) await opened.page.close();
+        }
+      }
+    }
+  } finally {
+    await browser.close();
+    servers.http.close();
+    servers.nosniff.close();
+  }
+  console.log(`${failures ? 'FAILED' : 'passed'} in ${((Date.now() - started) / 1000).toFixed(1)} s`);
+  process.exit(failures ? 1 : 0);
+}
+
+main().catch((e) => { console.error(e); process.exit(1); });
