@@ -53,7 +53,9 @@ export function buildFixtures(tool, work) {
 
   exportPage(tool, ['-o', out('sample', 'sample.html')]);
   exportPage(tool, [pic('big', 6000, 3000), '-o', out('big', 'big.html')]);
-  exportPage(tool, [pic('partial', 1200, 400), '--hextent', '120', '--vextent', '40', '-o', out('partial', 'partial.html')]);
+  const notice = presetFile(src, 'notice.ini', ['ShowWebGLWarning=1']);
+  exportPage(tool, [pic('partial', 1200, 400), '--hextent', '120', '--vextent', '40', '--settings', notice,
+    '-o', out('partial', 'partial.html')]);
   exportPage(tool, [pic('tiny', 10, 5), '-o', out('tiny', 'tiny.html')]);
   exportPage(tool, [pic('flat', 3000, 2000), '--flat', '-o', out('flat', 'flat.html')]);
 

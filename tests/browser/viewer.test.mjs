@@ -120,6 +120,19 @@ const CHECKS = {
     await page.evaluate(() => new Promise((r) => { let n = 20; const f = () => (--n ? requestAnimationFrame(f) : r()); f(); }));
     near((await viewerCall(page, 'return v.getView();')).pan, stopped, 0.01, 'pan after input');
   },
+  async noticeCloses({ page, via }) {
+    if (via !== 'file') return;
+    await page.locator('.vanto-notice button').click();
+    assert.equal(await page.locator('.vanto-notice').count(), 0, 'the notice stays after its close button');
+  },
+  async throwingHandler({ page, errors }) {
+    await viewerCall(page, `v.handlers.onresize = "function(){ throw new Error('boom'); }"; v.fire('onresize');`);
+    const reported = errors.splice(0).join('\n');
+    assert.match(reported, /onresize handler of "mainEvents" failed/, 'a throwing handler is reported');
+    await viewerCall(page, 'v.setView(30, 0, 80);');
+    await settled(page);
+    near((await viewerCall(page, 'return v.getView();')).pan, 30, 0.01, 'pan after a throwing handler');
+  },
   async errorShown({ page, outcome, name }) {
     assert.match(outcome, /^failed: /);
     const message = await page.locator('#vantoViewerID .vanto-error').innerText();
@@ -131,8 +144,8 @@ const CHECKS = {
 const CASES = [
   { dir: 'sample', page: 'sample.html', via: ['file', 'http', 'nosniff'], checks: ['showsPicture'] },
   { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView'] },
-  { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits'] },
-  { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture'] },
+  { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
+  { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
   { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'infoHotspot', 'linkHotspot'] },
