@@ -61,6 +61,16 @@ const CHECKS = {
     near(view.pan, 90, 3, 'pan after setView');
     near(view.tilt, 30, 3, 'tilt after setView');
   },
+  async keyboard({ page }) {
+    const before = await viewerCall(page, 'return v.getView();');
+    await page.locator('.vanto-root').focus();
+    await page.keyboard.down('ArrowRight');
+    await page.waitForFunction((p) => vantoViewer.get('vantoViewerID').getView().pan > p + 5, before.pan);
+    await page.keyboard.up('ArrowRight');
+    await page.keyboard.press('+');
+    const after = await viewerCall(page, 'return v.getView();');
+    assert.ok(after.hfov < before.hfov, `+ did not zoom in (${before.hfov} to ${after.hfov})`);
+  },
   async limits({ page, params }) {
     const cam = params.node.camera;
     for (const [pan, tilt] of [[-500, 80], [500, -80], [0, 0]]) {
@@ -143,7 +153,7 @@ const CHECKS = {
 // Pages, the ways they are opened, and what each must show.
 const CASES = [
   { dir: 'sample', page: 'sample.html', via: ['file', 'http', 'nosniff'], checks: ['showsPicture'] },
-  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView'] },
+  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard'] },
   { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
   { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
   { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow'] },

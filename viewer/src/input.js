@@ -138,6 +138,14 @@ export class Input {
     e.preventDefault();
     if (pressed) {
       this.viewer.userInput();
+      // A first press moves at once, so that a short tap does something; holding keeps moving.
+      if (!e.repeat && !this.keys.has(e.key) && !this.viewer.locked) {
+        const [what, sign] = action;
+        const step = this.viewer.size().width * 0.02;
+        if (what === 'zoom') this.zoomAt(Math.exp(sign * 0.08), 0, 0, false);
+        else if (what === 'pan') this.shift(sign * step, 0);
+        else this.shift(0, sign * step);
+      }
       this.keys.add(e.key);
     } else this.keys.delete(e.key);
     this.viewer.requestFrame();

@@ -54,6 +54,19 @@ export class Pyramid {
     return tile;
   }
 
+  // Forgets the least recently drawn tiles beyond `keep`, never those of level 0 or of the current
+  // frame; `forget` lets the renderer free what it holds for a tile.
+  evict(frame, keep, forget) {
+    if (this.cache.size <= keep) return;
+    const old = [...this.cache.values()]
+      .filter((t) => t.level > 0 && t.used !== frame && t.state !== 'loading')
+      .sort((a, b) => a.used - b.used);
+    for (const tile of old.slice(0, this.cache.size - keep)) {
+      this.cache.delete(tile.key);
+      forget(tile);
+    }
+  }
+
   // The smallest level that gives at least `needed` pixels across the whole picture.
   levelFor(needed) {
     for (let i = 0; i < this.levels.length; i++) {

@@ -43,6 +43,8 @@ export class Canvas2DRenderer {
     }
   }
 
+  forget() {}
+
   end() {}
 }
 

@@ -81,6 +81,12 @@ class WebGLRenderer {
     return texture;
   }
 
+  forget(tile) {
+    const texture = this.textures.get(tile.key);
+    if (texture) this.gl.deleteTexture(texture);
+    this.textures.delete(tile.key);
+  }
+
   drawTile(tile, mesh) {
     const gl = this.gl;
     const T = mesh.triangles;

@@ -20,6 +20,9 @@ import { Input } from './input.js';
 import { installStyles, showError, showWebGLNotice } from './overlay.js';
 import { methods } from './methods.js';
 
+// Tiles kept in memory (and as textures) beyond those of the current frame.
+const TILE_CACHE = 300;
+
 export class Viewer {
   constructor(elementId, paramsFile, options) {
     this.elementId = elementId;
@@ -254,11 +257,14 @@ export class Viewer {
       }
     }
     let complete = true;
+    this.frameCount = (this.frameCount || 0) + 1;
     for (const { tile, mesh } of wanted) {
+      tile.used = this.frameCount;
       if (tile.state === 'ready') this.renderer.drawTile(tile, mesh);
       else if (tile.state === 'loading') complete = false;
     }
     this.renderer.end();
+    this.pyramid.evict(this.frameCount, TILE_CACHE, (tile) => this.renderer.forget(tile));
     this.placeOverlays(width, height);
     return complete;
   }
