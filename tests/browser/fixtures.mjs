@@ -62,6 +62,9 @@ export function buildFixtures(tool, work) {
   const autoplay = presetFile(src, 'autoplay.ini', ['AutoPlay=1', 'PanRate=30.0000', 'TiltRate=0.0000', 'ZoomRate=0.0000', 'Restart=0']);
   exportPage(tool, [pic('turn', 2048, 1024), '--settings', autoplay, '-o', out('autoplay', 'turn.html')]);
 
+  const intro = presetFile(src, 'intro.ini', ['LittlePlanetIntro=1']);
+  exportPage(tool, [pic('intro', 2048, 1024), '--settings', intro, '-o', out('intro', 'intro.html')]);
+
   // A tour of two panoramas with ".js" parameter files and the WebGL notice switched off: the hall
   // has an info hotspot left of its start view and a link to the garden right of it.
   const hotspots = path.join(src, 'hotspots.json');

@@ -143,6 +143,19 @@ const CHECKS = {
     await settled(page);
     near((await viewerCall(page, 'return v.getView();')).pan, 30, 0.01, 'pan after a throwing handler');
   },
+  // The little-planet intro of the controls file: it starts in the little-planet view with input
+  // locked, then turns and zooms into the start view and gives input back.
+  async intro(args) {
+    const { page } = args;
+    assert.equal(await viewerCall(page, 'return v.fisheyeDistortion();'), 1);
+    assert.equal(await viewerCall(page, 'return v.isLocked();'), true);
+    await page.waitForFunction(() => {
+      const v = vantoViewer.get('vantoViewerID');
+      return v.fisheyeDistortion() === 0 && !v.isLocked();
+    }, null, { timeout: 15000 });
+    await settled(page);
+    await CHECKS.startView(args);
+  },
   async errorShown({ page, outcome, name }) {
     assert.match(outcome, /^failed: /);
     const message = await page.locator('#vantoViewerID .vanto-error').innerText();
@@ -157,6 +170,7 @@ const CASES = [
   { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
   { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
   { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow'] },
+  { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'infoHotspot', 'linkHotspot'] },
   { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
