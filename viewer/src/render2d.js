@@ -4,7 +4,7 @@
 export class Canvas2DRenderer {
   constructor(canvas) {
     this.canvas = canvas;
-    this.ctx = canvas.getContext('2d');
+    this.ctx = canvas.getContext('2d', { alpha: false, willReadFrequently: true });
     this.webgl = false;
   }
 
@@ -33,14 +33,7 @@ export class Canvas2DRenderer {
       ctx.drawImage(tile.img, P[0] * r, P[1] * r, (P[2] - P[0]) * r, (P[5] - P[1]) * r);
       return;
     }
-    for (let i = 0; i < T.length; i += 3) {
-      const a = T[i] * 2;
-      const b = T[i + 1] * 2;
-      const c = T[i + 2] * 2;
-      drawTriangle(ctx, tile.img, r,
-        P[a], P[a + 1], P[b], P[b + 1], P[c], P[c + 1],
-        U[a], U[a + 1], U[b], U[b + 1], U[c], U[c + 1]);
-    }
+    for (let i = 0; i < T.length; i += 3) drawTriangle(ctx, tile.img, r, P, U, T[i] * 2, T[i + 1] * 2, T[i + 2] * 2);
   }
 
   forget() {}
@@ -48,38 +41,48 @@ export class Canvas2DRenderer {
   end() {}
 }
 
-// Draws the image part (u, v) of one triangle onto the screen triangle (x, y), grown by a little
-// so that neighbouring triangles leave no visible seam.
-function drawTriangle(ctx, img, r, x0, y0, x1, y1, x2, y2, u0, v0, u1, v1, u2, v2) {
-  x0 *= r; y0 *= r; x1 *= r; y1 *= r; x2 *= r; y2 *= r;
+// Draws the image part of one triangle onto its screen triangle, grown by a little so that
+// neighbouring triangles leave no visible seam. Only the triangle's part of the image is handed
+// to drawImage, which keeps the work per triangle small.
+function drawTriangle(ctx, img, r, P, U, a, b, c) {
+  const x0 = P[a] * r; const y0 = P[a + 1] * r;
+  const x1 = P[b] * r; const y1 = P[b + 1] * r;
+  const x2 = P[c] * r; const y2 = P[c + 1] * r;
+  const u0 = U[a]; const v0 = U[a + 1];
+  const u1 = U[b]; const v1 = U[b + 1];
+  const u2 = U[c]; const v2 = U[c + 1];
   const den = u0 * (v1 - v2) + u1 * (v2 - v0) + u2 * (v0 - v1);
   if (Math.abs(den) < 1e-9) return;
-  const a = (x0 * (v1 - v2) + x1 * (v2 - v0) + x2 * (v0 - v1)) / den;
-  const b = (y0 * (v1 - v2) + y1 * (v2 - v0) + y2 * (v0 - v1)) / den;
-  const c = (x0 * (u2 - u1) + x1 * (u0 - u2) + x2 * (u1 - u0)) / den;
-  const d = (y0 * (u2 - u1) + y1 * (u0 - u2) + y2 * (u1 - u0)) / den;
-  const e = (x0 * (u1 * v2 - u2 * v1) + x1 * (u2 * v0 - u0 * v2) + x2 * (u0 * v1 - u1 * v0)) / den;
-  const f = (y0 * (u1 * v2 - u2 * v1) + y1 * (u2 * v0 - u0 * v2) + y2 * (u0 * v1 - u1 * v0)) / den;
+  const ta = (x0 * (v1 - v2) + x1 * (v2 - v0) + x2 * (v0 - v1)) / den;
+  const tb = (y0 * (v1 - v2) + y1 * (v2 - v0) + y2 * (v0 - v1)) / den;
+  const tc = (x0 * (u2 - u1) + x1 * (u0 - u2) + x2 * (u1 - u0)) / den;
+  const td = (y0 * (u2 - u1) + y1 * (u0 - u2) + y2 * (u1 - u0)) / den;
+  const te = (x0 * (u1 * v2 - u2 * v1) + x1 * (u2 * v0 - u0 * v2) + x2 * (u0 * v1 - u1 * v0)) / den;
+  const tf = (y0 * (u1 * v2 - u2 * v1) + y1 * (u2 * v0 - u0 * v2) + y2 * (u0 * v1 - u1 * v0)) / den;
   const cx = (x0 + x1 + x2) / 3;
   const cy = (y0 + y1 + y2) / 3;
   const grow = (x, y) => {
     const dx = x - cx;
     const dy = y - cy;
     const len = Math.hypot(dx, dy) || 1;
-    return [x + dx / len * 0.7, y + dy / len * 0.7];
+    return [x + (dx / len) * 0.7, y + (dy / len) * 0.7];
   };
   const p0 = grow(x0, y0);
   const p1 = grow(x1, y1);
   const p2 = grow(x2, y2);
+  const su = Math.max(0, Math.floor(Math.min(u0, u1, u2) - 1));
+  const sv = Math.max(0, Math.floor(Math.min(v0, v1, v2) - 1));
+  const sw = Math.min(img.naturalWidth, Math.ceil(Math.max(u0, u1, u2) + 1)) - su;
+  const sh = Math.min(img.naturalHeight, Math.ceil(Math.max(v0, v1, v2) + 1)) - sv;
+  if (sw <= 0 || sh <= 0) return;
   ctx.save();
-  ctx.setTransform(1, 0, 0, 1, 0, 0);
   ctx.beginPath();
   ctx.moveTo(p0[0], p0[1]);
   ctx.lineTo(p1[0], p1[1]);
   ctx.lineTo(p2[0], p2[1]);
   ctx.closePath();
   ctx.clip();
-  ctx.setTransform(a, b, c, d, e, f);
-  ctx.drawImage(img, 0, 0);
+  ctx.setTransform(ta, tb, tc, td, te, tf);
+  ctx.drawImage(img, su, sv, sw, sh, su, sv, sw, sh);
   ctx.restore();
 }
