@@ -32,8 +32,11 @@ export async function launchBrowser(modules, viewport = { width: 1000, height: 7
 }
 
 // Opens a page and waits for its viewer's `ready`; collects page errors and console errors.
-export async function openViewer(context, url, { expectFailure = false } = {}) {
+export async function openViewer(context, url, { expectFailure = false, language } = {}) {
   const page = await context.newPage();
+  if (language) {
+    await page.addInitScript((lang) => Object.defineProperty(navigator, 'language', { get: () => lang }), language);
+  }
   const errors = [];
   page.on('pageerror', (e) => errors.push(`page error: ${e.message}`));
   page.on('console', (m) => { if (m.type() === 'error') errors.push(`console: ${m.text()}`); });

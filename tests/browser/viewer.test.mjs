@@ -156,10 +156,11 @@ const CHECKS = {
     await settled(page);
     await CHECKS.startView(args);
   },
-  async errorShown({ page, outcome, name }) {
+  async errorShown({ page, outcome, name, language }) {
     assert.match(outcome, /^failed: /);
     const message = await page.locator('#vantoViewerID .vanto-error').innerText();
     assert.ok(message.includes(`${name}.json`), `message "${message}" does not name the file`);
+    assert.match(message, language === 'de-DE' ? /konnte nicht geladen werden/ : /could not be loaded/);
   },
 };
 
@@ -174,6 +175,7 @@ const CASES = [
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'infoHotspot', 'linkHotspot'] },
   { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
+  { dir: 'errors', page: 'missing.html', via: ['http'], checks: ['errorShown'], failure: 'missing', language: 'de-DE' },
   { dir: 'errors', page: 'broken.html', via: ['file', 'nosniff'], checks: ['errorShown'], failure: 'broken' },
 ];
 
@@ -212,10 +214,10 @@ async function main() {
       const { params, noticeOff } = paramsOf(c.dir, c.page);
       for (const via of c.via) {
         const url = via === 'file' ? pathToFileURL(path.join(work, c.dir, c.page)).href : `${servers[via].url}/${c.dir}/${c.page}`;
-        const label = `${c.dir}/${c.page} over ${via}`;
+        const label = `${c.dir}/${c.page} over ${via}${c.language ? ` in ${c.language}` : ''}`;
         let opened;
         try {
-          opened = await openViewer(browser.context, url, { expectFailure: !!c.failure });
+          opened = await openViewer(browser.context, url, { expectFailure: !!c.failure, language: c.language });
           const { page, errors, outcome } = opened;
           if (!c.failure) {
             const webgl = await viewerCall(page, 'return v.webglAvailable;');
@@ -223,7 +225,7 @@ async function main() {
             const notices = await page.locator('.vanto-notice').count();
             assert.equal(notices, !webgl && !noticeOff ? 1 : 0, 'WebGL notice');
           }
-          for (const check of c.checks) await CHECKS[check]({ page, params, via, errors, outcome, name: c.failure });
+          for (const check of c.checks) await CHECKS[check]({ page, params, via, errors, outcome, name: c.failure, language: c.language });
           if (!c.failure) assert.deepEqual(errors, [], 'errors in the page');
           console.log(`ok   ${label}: ${c.checks.join(', ')}`);
         } catch (e) {
