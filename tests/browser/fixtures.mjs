@@ -32,6 +32,27 @@ export function readParams(file) {
   return JSON.parse(text.slice(text.indexOf('=') + 1)).vantoraViewer;
 }
 
+// A short sine tone as 8-bit mono WAV.
+export function writeTone(file, seconds = 0.5, rate = 8000) {
+  const samples = Math.round(seconds * rate);
+  const header = Buffer.alloc(44);
+  header.write('RIFF', 0);
+  header.writeUInt32LE(36 + samples, 4);
+  header.write('WAVEfmt ', 8);
+  header.writeUInt32LE(16, 16);
+  header.writeUInt16LE(1, 20);
+  header.writeUInt16LE(1, 22);
+  header.writeUInt32LE(rate, 24);
+  header.writeUInt32LE(rate, 28);
+  header.writeUInt16LE(1, 32);
+  header.writeUInt16LE(8, 34);
+  header.write('data', 36);
+  header.writeUInt32LE(samples, 40);
+  const data = Buffer.alloc(samples);
+  for (let i = 0; i < samples; i++) data[i] = 128 + Math.round(60 * Math.sin((2 * Math.PI * 440 * i) / rate));
+  fs.writeFileSync(file, Buffer.concat([header, data]));
+}
+
 function presetFile(dir, name, lines) {
   const file = path.join(dir, name);
   fs.writeFileSync(file, `[Applet]\r\n${lines.join('\r\n')}\r\n`);
@@ -61,6 +82,15 @@ export function buildFixtures(tool, work) {
 
   const autoplay = presetFile(src, 'autoplay.ini', ['AutoPlay=1', 'PanRate=30.0000', 'TiltRate=0.0000', 'ZoomRate=0.0000', 'Restart=0']);
   exportPage(tool, [pic('turn', 2048, 1024), '--settings', autoplay, '-o', out('autoplay', 'turn.html')]);
+
+  // Logo and sound name the user's files by their full paths; the export copies them beside the page.
+  const tone = path.join(src, 'tone.wav');
+  writeTone(tone);
+  const logo = path.join(src, 'logo.jpg');
+  fs.copyFileSync(path.join(work, 'sample', 'sample_tiles', 'sample_thumb.jpg'), logo);
+  const media = presetFile(src, 'media.ini', [`LogoImage=${logo}`, 'LogoURL=https://example.com/', `Sound=${tone}`,
+    'AudioAutoplay=1', 'AudioLoop=1', 'AudioGlobal=0']);
+  exportPage(tool, [pic('media', 2048, 1024), '--settings', media, '-o', out('media', 'media.html')]);
 
   const intro = presetFile(src, 'intro.ini', ['LittlePlanetIntro=1']);
   exportPage(tool, [pic('intro', 2048, 1024), '--settings', intro, '-o', out('intro', 'intro.html')]);

@@ -143,6 +143,15 @@ const CHECKS = {
     await settled(page);
     near((await viewerCall(page, 'return v.getView();')).pan, 30, 0.01, 'pan after a throwing handler');
   },
+  // The logo shows its picture with its link; the sound plays, at the latest after the first click.
+  async logoAndSound({ page, params }) {
+    const logo = page.locator('.vanto-logo');
+    assert.equal(await logo.getAttribute('href'), params.logo.href);
+    assert.ok(await logo.locator('img').evaluate((img) => img.complete && img.naturalWidth > 0), 'logo picture not loaded');
+    const box = await page.locator('#vantoViewerID').boundingBox();
+    await page.mouse.click(box.x + W / 2, box.y + H / 2);
+    await page.waitForFunction(() => vantoViewer.get('vantoViewerID').get('lAudio').isPlaying());
+  },
   // The little-planet intro of the controls file: it starts in the little-planet view with input
   // locked, then turns and zooms into the start view and gives input back.
   async intro(args) {
@@ -171,6 +180,7 @@ const CASES = [
   { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
   { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
   { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow'] },
+  { dir: 'media', page: 'media.html', via: ['file', 'http'], checks: ['logoAndSound'] },
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'infoHotspot', 'linkHotspot'] },

@@ -1,11 +1,12 @@
 // The sound of a panorama ("gAudio" for the whole tour, "lAudio" for one node). A browser that
 // refuses to start a sound before the user has done anything gets it started on the first gesture.
+import { besidePage } from './elements.js';
 
 export class Sound {
   constructor(viewer, members) {
     Object.assign(this, members);
     this.viewer = viewer;
-    const audio = new Audio(new URL(members.src, viewer.baseUrl).href);
+    const audio = new Audio(besidePage(members.src, viewer.baseUrl));
     audio.loop = !!members.loop;
     audio.preload = 'auto';
     this.audio = audio;

@@ -13,6 +13,16 @@ export function cssLength(value) {
   return /^-?[\d.]+$/.test(value) ? `${value}px` : String(value);
 }
 
+// The address of a file that the export copied next to the page. The files may name the user's
+// original path ("C:\\Pictures\\logo.png" or "/home/me/logo.png"), which no web server has: the
+// copy beside the page carries its file name. Web addresses and relative names stay as they are.
+export function besidePage(src, baseUrl) {
+  const text = String(src || '');
+  if (/^[a-z][a-z0-9+.-]*:\/\//i.test(text) && !/^file:/i.test(text)) return text;
+  const local = /^[a-zA-Z]:[\\/]|^[\\/]|\\/.test(text) || /^file:/i.test(text);
+  return new URL(local ? text.split(/[\\/]/).pop() : text, baseUrl).href;
+}
+
 // Places a node by an "align" word (top, bottom, left, right, center and the corners such as
 // "topleft" or "bottomright") and its offsets.
 export function placeNode(node, align, xoff, yoff) {
@@ -126,7 +136,7 @@ export function createLogo(viewer, logo) {
     link.rel = 'noopener';
   }
   const img = document.createElement('img');
-  img.src = new URL(logo.src, viewer.baseUrl).href;
+  img.src = besidePage(logo.src, viewer.baseUrl);
   img.alt = '';
   img.style.cssText = `${logo.style || ''};display:block;`;
   link.appendChild(img);
