@@ -71,6 +71,20 @@ const CHECKS = {
     const after = await viewerCall(page, 'return v.getView();');
     assert.ok(after.hfov < before.hfov, `+ did not zoom in (${before.hfov} to ${after.hfov})`);
   },
+  // The wheel zooms towards the pointer: the colour under it stays, the view narrows.
+  async wheelZoom({ page }) {
+    const box = await page.locator('#vantoViewerID').boundingBox();
+    const at = [W * 0.3, H * 0.4];
+    const [before] = await pixels(page, [at]);
+    const hfov = (await viewerCall(page, 'return v.getView();')).hfov;
+    await page.mouse.move(box.x + at[0], box.y + at[1]);
+    await page.mouse.wheel(0, -300);
+    await page.waitForFunction((h) => vantoViewer.get('vantoViewerID').getView().hfov < h * 0.9, hfov);
+    await settled(page);
+    const [after] = await pixels(page, [at]);
+    near(after[0], before[0], 4, 'red under the pointer');
+    near(after[1], before[1], 4, 'green under the pointer');
+  },
   async limits({ page, params }) {
     const cam = params.node.camera;
     for (const [pan, tilt] of [[-500, 80], [500, -80], [0, 0]]) {
@@ -176,10 +190,10 @@ const CHECKS = {
 // Pages, the ways they are opened, and what each must show.
 const CASES = [
   { dir: 'sample', page: 'sample.html', via: ['file', 'http', 'nosniff'], checks: ['showsPicture'] },
-  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard'] },
+  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard', 'wheelZoom'] },
   { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
   { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
-  { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow'] },
+  { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow', 'wheelZoom'] },
   { dir: 'media', page: 'media.html', via: ['file', 'http'], checks: ['logoAndSound'] },
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
