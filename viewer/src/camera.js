@@ -1,7 +1,7 @@
 // The camera state of a panorama or a flat picture and the limits that hold it: the view never
 // leaves the picture of a partial panorama, the field of view stays between its minimum and
 // maximum, and a flat picture never shrinks below the size that fits the window.
-import { verticalFov } from './geometry.js';
+import { verticalFov, horizontalFov } from './geometry.js';
 
 const FULL = 359.99;
 
@@ -34,10 +34,8 @@ export function clampSpherical(view, limits, width, height, distortion) {
   const aspect = height / Math.max(width, 1);
   if (panRange < FULL) hfov = Math.min(hfov, panRange);
   if (tiltRange < 179.99 && distortion === 0) {
-    // The largest hfov whose vertical field still fits the picture's height.
-    let fit = hfov;
-    while (fit > 1 && verticalFov(fit, width, height, 0) > tiltRange) fit -= 0.5;
-    hfov = Math.max(Math.min(hfov, fit), Math.min(limits.minhfov, fit));
+    // No more than the picture's height: the largest hfov whose vertical field fits it.
+    hfov = Math.min(hfov, horizontalFov(tiltRange, width, height));
   }
   if (panRange < FULL) {
     const lo = limits.minpan + hfov / 2;

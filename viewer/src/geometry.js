@@ -60,6 +60,11 @@ export function verticalFov(hfov, width, height, distortion) {
   return 2 * Math.atan(Math.tan(half) * height / width) / RAD;
 }
 
+// Horizontal field of view whose vertical field is vfov, in the ordinary view.
+export function horizontalFov(vfov, width, height) {
+  return 2 * Math.atan(Math.tan(Math.min(vfov, 179) * RAD / 2) * width / Math.max(height, 1)) / RAD;
+}
+
 export function wrapPan(pan) {
   return ((pan % 360) + 540) % 360 - 180;
 }

@@ -4,7 +4,7 @@
 import { loadWithIncludes } from './loader.js';
 import { text } from './texts.js';
 import { Pyramid } from './pyramid.js';
-import { makeCamera, project, unproject, direction, wrapPan } from './geometry.js';
+import { makeCamera, project, direction, wrapPan } from './geometry.js';
 import { sphericalFrame, sphericalPlacer, flatPlacer, visibleTiles } from './scene.js';
 import { sphericalLimits, clampSpherical, clampFlat, fitScale, isFullCircle } from './camera.js';
 import { Canvas2DRenderer } from './render2d.js';
