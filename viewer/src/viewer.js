@@ -57,6 +57,8 @@ export class Viewer {
     if (!container) throw new Error(text('noElement', this.elementId));
     this.container = container;
     installStyles();
+    // The viewer fills its element: the element must be the frame of what is placed inside.
+    if (getComputedStyle(container).position === 'static') container.style.position = 'relative';
     const root = document.createElement('div');
     root.className = 'vanto-root';
     root.tabIndex = 0;
