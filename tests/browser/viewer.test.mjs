@@ -123,6 +123,12 @@ const CHECKS = {
     await box.click();
     await box.waitFor({ state: 'detached' });
     assert.equal(await viewerCall(page, 'return v.currentMBId;'), null);
+    // From the keyboard: Enter on the focused hotspot opens the box, and again closes it.
+    await info.focus();
+    await page.keyboard.press('Enter');
+    await box.waitFor({ state: 'visible' });
+    await page.keyboard.press('Enter');
+    await box.waitFor({ state: 'detached' });
   },
   async linkHotspot({ page }) {
     await page.locator('.vanto-hotspot').filter({ has: page.locator('img[alt="To the garden"]') }).click();

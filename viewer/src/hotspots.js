@@ -19,7 +19,18 @@ export class Hotspot extends Element {
     this.opacities = pair(this.opacity, 1);
     const node = this.node;
     node.style.cssText = 'position:absolute;left:0;top:0;z-index:10;cursor:pointer;pointer-events:auto;';
-    node.tabIndex = -1;
+    // Hotspots take the focus in turn; Enter or Space opens them as a click does.
+    node.tabIndex = 0;
+    node.setAttribute('role', 'button');
+    if (this.textbox && this.textbox.text) node.setAttribute('aria-label', this.textbox.text);
+    node.addEventListener('focus', () => this.setHover(true));
+    node.addEventListener('blur', () => this.setHover(false));
+    node.addEventListener('keydown', (e) => {
+      if (e.key !== 'Enter' && e.key !== ' ') return;
+      e.preventDefault();
+      e.stopPropagation();
+      this.activate();
+    });
     this.image = document.createElement('img');
     this.image.src = new URL(this.bitmap, viewer.baseUrl).href;
     this.image.alt = (this.textbox && this.textbox.text) || '';
