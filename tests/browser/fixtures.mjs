@@ -78,7 +78,11 @@ export function buildFixtures(tool, work) {
   exportPage(tool, [pic('partial', 1200, 400), '--hextent', '120', '--vextent', '40', '--settings', notice,
     '-o', out('partial', 'partial.html')]);
   exportPage(tool, [pic('tiny', 10, 5), '-o', out('tiny', 'tiny.html')]);
-  exportPage(tool, [pic('flat', 3000, 2000), '--flat', '-o', out('flat', 'flat.html')]);
+  const flatSpots = path.join(src, 'flatspots.json');
+  fs.writeFileSync(flatSpots, JSON.stringify({
+    hotspots: [{ type: 'info', x: 0.25, y: 0.75, bitmap: ':/hotspots/info.png', tooltip: 'Lower left', text: 'A quarter in' }],
+  }));
+  exportPage(tool, [pic('flat', 3000, 2000), '--flat', '--hotspots', flatSpots, '-o', out('flat', 'flat.html')]);
 
   const autoplay = presetFile(src, 'autoplay.ini', ['AutoPlay=1', 'PanRate=30.0000', 'TiltRate=0.0000', 'ZoomRate=0.0000', 'Restart=0']);
   exportPage(tool, [pic('turn', 2048, 1024), '--settings', autoplay, '-o', out('autoplay', 'turn.html')]);

@@ -85,6 +85,38 @@ const CHECKS = {
     near(after[0], before[0], 4, 'red under the pointer');
     near(after[1], before[1], 4, 'green under the pointer');
   },
+  // Every hotspot sits where its position says: the start view's rectilinear projection of its
+  // pan and tilt, or on a flat picture fitted to the window, its fraction of the picture.
+  async hotspotPlaces({ page, params }) {
+    const box = await page.locator('#vantoViewerID').boundingBox();
+    const spots = params.node.hotspot;
+    const nodes = page.locator('.vanto-hotspot');
+    assert.equal(await nodes.count(), spots.length, 'hotspot count');
+    const rad = Math.PI / 180;
+    for (let i = 0; i < spots.length; i++) {
+      const [a, b] = spots[i].position.split(',').map(Number);
+      let expected;
+      if (spots[i].unit === 'norm') {
+        const { width, height } = params.node.image;
+        const scale = Math.min(W / width, H / height);
+        expected = [W / 2 + (a - 0.5) * width * scale, H / 2 + (b - 0.5) * height * scale];
+      } else {
+        const v = params.node.view;
+        const d = [Math.cos(b * rad) * Math.sin(a * rad), Math.sin(b * rad), Math.cos(b * rad) * Math.cos(a * rad)];
+        const p = v.pan * rad;
+        const t = v.tilt * rad;
+        const right = [Math.cos(p), 0, -Math.sin(p)];
+        const up = [-Math.sin(t) * Math.sin(p), Math.cos(t), -Math.sin(t) * Math.cos(p)];
+        const fwd = [Math.cos(t) * Math.sin(p), Math.sin(t), Math.cos(t) * Math.cos(p)];
+        const dot = (u, w) => u[0] * w[0] + u[1] * w[1] + u[2] * w[2];
+        const k = W / 2 / Math.tan((v.hfov * rad) / 2);
+        expected = [W / 2 + (k * dot(d, right)) / dot(d, fwd), H / 2 - (k * dot(d, up)) / dot(d, fwd)];
+      }
+      const img = await nodes.nth(i).locator('img').boundingBox();
+      near(img.x + img.width / 2 - box.x, expected[0], 2, `hotspot ${i} x`);
+      near(img.y + img.height / 2 - box.y, expected[1], 2, `hotspot ${i} y`);
+    }
+  },
   async limits({ page, params }) {
     const cam = params.node.camera;
     for (const [pan, tilt] of [[-500, 80], [500, -80], [0, 0]]) {
@@ -199,11 +231,11 @@ const CASES = [
   { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard', 'wheelZoom'] },
   { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
   { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
-  { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow', 'wheelZoom'] },
+  { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow', 'hotspotPlaces', 'wheelZoom'] },
   { dir: 'media', page: 'media.html', via: ['file', 'http'], checks: ['logoAndSound'] },
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
-  { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'infoHotspot', 'linkHotspot'] },
+  { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'hotspotPlaces', 'infoHotspot', 'linkHotspot'] },
   { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
   { dir: 'errors', page: 'missing.html', via: ['http'], checks: ['errorShown'], failure: 'missing', language: 'de-DE' },
   { dir: 'errors', page: 'broken.html', via: ['file', 'nosniff'], checks: ['errorShown'], failure: 'broken' },
