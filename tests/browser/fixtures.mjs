@@ -112,6 +112,13 @@ export function buildFixtures(tool, work) {
   exportPage(tool, [pic('hall', 2048, 1024, 32), pic('garden', 2048, 1024, 224), '--settings', tour,
     '--hotspots', hotspots, '--title', 'Great Hall', '-o', out('tour', 'hall.html')]);
 
+  // Two viewers in one page of our own, started together: their loads must not mix.
+  fs.writeFileSync(path.join(work, 'tour', 'two.html'), `<!DOCTYPE HTML><html><head><meta charset="UTF-8"></head><body>
+<div id="vantoViewerID" style="position:relative;width:400px;height:300px"></div>
+<div id="second" style="position:relative;width:400px;height:300px"></div>
+<script src="vantoViewer.js"></script>
+<script>vantoViewer.insert("vantoViewerID","hall.js",{html5:"disable_webgl_warning"}); vantoViewer.insert("second","garden.js",{html5:"disable_webgl_warning"});</script></body></html>`);
+
   // Pages of our own around exported files: one whose parameter file is missing, one whose
   // parameter file is not a viewer file.
   const errors = path.join(work, 'errors');

@@ -195,6 +195,14 @@ const CHECKS = {
     await settled(page);
     near((await viewerCall(page, 'return v.getView();')).pan, 30, 0.01, 'pan after a throwing handler');
   },
+  async twoViewers({ page }) {
+    const ids = await page.evaluate(async () => {
+      const viewers = [vantoViewer.get('vantoViewerID'), vantoViewer.get('second')];
+      await Promise.all(viewers.map((v) => v.ready));
+      return viewers.map((v) => v.node.id);
+    });
+    assert.deepEqual(ids, ['hall', 'garden']);
+  },
   // The logo shows its picture with its link; the sound plays, at the latest after the first click.
   async logoAndSound({ page, params }) {
     const logo = page.locator('.vanto-logo');
@@ -236,6 +244,7 @@ const CASES = [
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'hotspotPlaces', 'infoHotspot', 'linkHotspot'] },
+  { dir: 'tour', page: 'two.html', via: ['file', 'nosniff'], checks: ['twoViewers'] },
   { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
   { dir: 'errors', page: 'missing.html', via: ['http'], checks: ['errorShown'], failure: 'missing', language: 'de-DE' },
   { dir: 'errors', page: 'broken.html', via: ['file', 'nosniff'], checks: ['errorShown'], failure: 'broken' },
@@ -243,7 +252,7 @@ const CASES = [
 
 function paramsOf(dir, page) {
   const html = fs.readFileSync(path.join(work, dir, page), 'utf8');
-  const [, file, options] = html.match(/vantoViewer\.insert\("vantoViewerID","([^"]+)",\{(.*)\}\);/);
+  const [, file, options] = html.match(/vantoViewer\.insert\("vantoViewerID","([^"]+)",\{(.*?)\}\);/);
   let params = null;
   try {
     params = readParams(path.join(work, dir, file));
