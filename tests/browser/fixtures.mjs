@@ -84,7 +84,8 @@ export function buildFixtures(tool, work) {
   }));
   exportPage(tool, [pic('flat', 3000, 2000), '--flat', '--hotspots', flatSpots, '-o', out('flat', 'flat.html')]);
 
-  const autoplay = presetFile(src, 'autoplay.ini', ['AutoPlay=1', 'PanRate=30.0000', 'TiltRate=0.0000', 'ZoomRate=0.0000', 'Restart=0']);
+  const autoplay = presetFile(src, 'autoplay.ini', ['AutoPlay=1', 'PanRate=30.0000', 'TiltRate=0.0000', 'ZoomRate=0.0000', 'Restart=0',
+    'MouseMode=0']);
   exportPage(tool, [pic('turn', 2048, 1024), '--settings', autoplay, '-o', out('autoplay', 'turn.html')]);
 
   // Logo and sound name the user's files by their full paths; the export copies them beside the page.

@@ -71,6 +71,34 @@ const CHECKS = {
     const after = await viewerCall(page, 'return v.getView();');
     assert.ok(after.hfov < before.hfov, `+ did not zoom in (${before.hfov} to ${after.hfov})`);
   },
+  // "drag": the picture follows the pointer, so the colour first under it ends up under it again.
+  async drag({ page }) {
+    const box = await page.locator('#vantoViewerID').boundingBox();
+    const from = [W * 0.4, H * 0.5];
+    const to = [W * 0.6, H * 0.55];
+    const [before] = await pixels(page, [from]);
+    await page.mouse.move(box.x + from[0], box.y + from[1]);
+    await page.mouse.down();
+    await page.mouse.move(box.x + to[0], box.y + to[1], { steps: 5 });
+    await page.mouse.up();
+    await settled(page);
+    const [after] = await pixels(page, [to]);
+    near(after[0], before[0], 6, 'red under the dragged point');
+    near(after[1], before[1], 6, 'green under the dragged point');
+  },
+  // "move": the view turns while the button is held away from where it was pressed, and stops.
+  async moveMode({ page }) {
+    const box = await page.locator('#vantoViewerID').boundingBox();
+    const start = (await viewerCall(page, 'return v.getView();')).pan;
+    await page.mouse.move(box.x + W / 2, box.y + H / 2);
+    await page.mouse.down();
+    await page.mouse.move(box.x + W / 2 + 150, box.y + H / 2, { steps: 3 });
+    await page.waitForFunction((p) => vantoViewer.get('vantoViewerID').getView().pan > p + 10, start);
+    await page.mouse.up();
+    const stopped = (await viewerCall(page, 'return v.getView();')).pan;
+    await page.evaluate(() => new Promise((r) => { let n = 10; const f = () => (--n ? requestAnimationFrame(f) : r()); f(); }));
+    near((await viewerCall(page, 'return v.getView();')).pan, stopped, 0.01, 'pan after release');
+  },
   // The wheel zooms towards the pointer: the colour under it stays, the view narrows.
   async wheelZoom({ page }) {
     const box = await page.locator('#vantoViewerID').boundingBox();
@@ -236,13 +264,13 @@ const CHECKS = {
 // Pages, the ways they are opened, and what each must show.
 const CASES = [
   { dir: 'sample', page: 'sample.html', via: ['file', 'http', 'nosniff'], checks: ['showsPicture'] },
-  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard', 'wheelZoom'] },
+  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard', 'wheelZoom', 'drag'] },
   { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
   { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
   { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow', 'hotspotPlaces', 'wheelZoom'] },
   { dir: 'media', page: 'media.html', via: ['file', 'http'], checks: ['logoAndSound'] },
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
-  { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay'] },
+  { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay', 'moveMode'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'hotspotPlaces', 'infoHotspot', 'linkHotspot'] },
   { dir: 'tour', page: 'two.html', via: ['file', 'nosniff'], checks: ['twoViewers'] },
   { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
