@@ -304,6 +304,12 @@ export class Viewer {
     const m = this.move;
     if (!m) return false;
     if (now < m.start) return true;
+    if (!m.from) {
+      // The move starts from wherever the view is when its delay is over.
+      m.from = { ...this.view };
+      const to = m.to;
+      m.delta = { pan: isFullCircle(this.limits) ? wrapPan(to.pan - m.from.pan) : to.pan - m.from.pan };
+    }
     const t = m.duration > 0 ? Math.min(1, (now - m.start) / m.duration) : 1;
     const k = m.curve(t);
     this.view = {
@@ -320,11 +326,11 @@ export class Viewer {
   }
 
   panTo(pan, tilt, hfov, time, delay, transition, unlock) {
-    const from = { ...this.view };
-    const to = { pan: Number(pan), tilt: Number(tilt), hfov: Number(hfov) || from.hfov };
-    const delta = { pan: isFullCircle(this.limits) ? wrapPan(to.pan - from.pan) : to.pan - from.pan };
+    const given = (value, current) => (Number.isFinite(Number(value)) && value !== null && value !== '' ? Number(value) : current);
+    const to = { pan: given(pan, this.view.pan), tilt: given(tilt, this.view.tilt), hfov: given(hfov, this.view.hfov) };
     this.move = {
-      from, to, delta,
+      from: null,
+      to,
       start: performance.now() + (Number(delay) || 0) * 1000,
       duration: (Number(time) || 0) * 1000,
       curve: easing(transition),
