@@ -113,6 +113,20 @@ export function buildFixtures(tool, work) {
   exportPage(tool, [pic('hall', 2048, 1024, 32), pic('garden', 2048, 1024, 224), '--settings', tour,
     '--hotspots', hotspots, '--title', 'Great Hall', '-o', out('tour', 'hall.html')]);
 
+  // The hall again, its link bitmap embedded in the panorama 20 degrees wide: the reference host
+  // writes floating bitmaps only, a panorama application also embedded ones.
+  const hall = fs.readFileSync(path.join(work, 'tour', 'hall.js'), 'utf8');
+  const prefix = 'VantoraViewerParams = ';
+  const root = JSON.parse(hall.slice(prefix.length));
+  for (const spot of root.vantoraViewer.node.hotspot) {
+    if (spot.href !== 'garden.html') continue;
+    delete spot.bitmapscale;
+    Object.assign(spot, { bitmaptype: 'embedded', embeddedwidth: 20, rotate: 0 });
+  }
+  fs.writeFileSync(path.join(work, 'tour', 'embedded.js'), prefix + JSON.stringify(root));
+  fs.writeFileSync(path.join(work, 'tour', 'embedded.html'),
+    fs.readFileSync(path.join(work, 'tour', 'hall.html'), 'utf8').replace('"hall.js"', '"embedded.js"'));
+
   // Two viewers in one page of our own, started together: their loads must not mix.
   fs.writeFileSync(path.join(work, 'tour', 'two.html'), `<!DOCTYPE HTML><html><head><meta charset="UTF-8"></head><body>
 <div id="vantoViewerID" style="position:relative;width:400px;height:300px"></div>

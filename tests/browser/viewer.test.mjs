@@ -37,6 +37,12 @@ const viewerCall = (page, fn, arg) => page.evaluate(({ body, a }) => {
 // Waits until the viewer has drawn a complete frame of its current view.
 const settled = (page) => page.evaluate(() => vantoViewer.get('vantoViewerID').settled().then(() => true));
 
+// Waits until every hotspot bitmap is loaded and placed.
+async function hotspotsLoaded(page) {
+  await page.waitForFunction(() => [...document.querySelectorAll('.vanto-hotspot img')].every((i) => i.complete && i.naturalWidth > 0));
+  await settled(page);
+}
+
 async function centreView(page, frame) {
   const [c] = await pixels(page, [CENTRE]);
   return measure(c, frame);
@@ -116,6 +122,7 @@ const CHECKS = {
   // Every hotspot sits where its position says: the start view's rectilinear projection of its
   // pan and tilt, or on a flat picture fitted to the window, its fraction of the picture.
   async hotspotPlaces({ page, params }) {
+    await hotspotsLoaded(page);
     const box = await page.locator('#vantoViewerID').boundingBox();
     const spots = params.node.hotspot;
     const nodes = page.locator('.vanto-hotspot');
@@ -223,6 +230,16 @@ const CHECKS = {
     await settled(page);
     near((await viewerCall(page, 'return v.getView();')).pan, 30, 0.01, 'pan after a throwing handler');
   },
+  // An embedded bitmap 20 degrees wide, 15 degrees right of the view's centre on the horizon,
+  // spans the screen columns of pan 5 to 25 degrees right of the centre.
+  async embedded({ page, params }) {
+    await hotspotsLoaded(page);
+    const box = await page.locator('#vantoViewerID').boundingBox();
+    const img = await page.locator('.vanto-hotspot img[alt="To the garden"]').boundingBox();
+    const k = W / 2 / Math.tan((params.node.view.hfov * Math.PI) / 360);
+    near(img.x - box.x, W / 2 + k * Math.tan((5 * Math.PI) / 180), 2, 'left edge');
+    near(img.x + img.width - box.x, W / 2 + k * Math.tan((25 * Math.PI) / 180), 2, 'right edge');
+  },
   async twoViewers({ page }) {
     const ids = await page.evaluate(async () => {
       const viewers = [vantoViewer.get('vantoViewerID'), vantoViewer.get('second')];
@@ -272,6 +289,7 @@ const CASES = [
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay', 'moveMode'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'hotspotPlaces', 'infoHotspot', 'linkHotspot'] },
+  { dir: 'tour', page: 'embedded.html', via: ['file', 'nosniff'], checks: ['embedded'] },
   { dir: 'tour', page: 'two.html', via: ['file', 'nosniff'], checks: ['twoViewers'] },
   { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
   { dir: 'errors', page: 'missing.html', via: ['http'], checks: ['errorShown'], failure: 'missing', language: 'de-DE' },

@@ -2,6 +2,7 @@
 // that follow the view. Link hotspots open their address after their transition; info hotspots
 // run their click handler, which opens the message box of "hsinfo".
 import { Element, TextBox } from './elements.js';
+import { matrix3d } from './embedded.js';
 
 function pair(text, fallback) {
   const parts = String(text || '').split(';').map(Number);
@@ -36,6 +37,7 @@ export class Hotspot extends Element {
     this.image.alt = (this.textbox && this.textbox.text) || '';
     this.image.draggable = false;
     this.image.style.cssText = 'display:block;transform-origin:50% 50%;';
+    this.image.addEventListener('load', () => viewer.requestFrame());
     node.appendChild(this.image);
     if (this.animation) this.animate();
     if (this.textbox && this.textbox.text) {
@@ -58,7 +60,8 @@ export class Hotspot extends Element {
     this.hover = hover;
     const i = hover ? 1 : 0;
     this.image.style.opacity = String(this.opacities[i]);
-    this.image.style.transform = `scale(${this.scales[i] * (this.embeddedScale || 1)}) rotate(${this.rotate || 0}deg)`;
+    this.image.style.transform = this.inPanorama ? ''
+      : `scale(${this.scales[i] * (this.embeddedScale || 1)}) rotate(${this.rotate || 0}deg)`;
     if (this.tooltip) this.tooltip.node.style.display = hover ? '' : 'none';
     if (this.animation && this.animation.mouseover) {
       this.image.style.animationPlayState = hover ? 'running' : 'paused';
@@ -88,6 +91,24 @@ export class Hotspot extends Element {
     };
     if (img.complete && img.naturalWidth) start();
     else img.addEventListener('load', start, { once: true });
+  }
+
+  // Pixels of the bitmap (of one frame of an animation strip); zero until it is loaded.
+  bitmapSize() {
+    if (this.animation) return [this.animation.width || 0, this.animation.height || 0];
+    return [this.image.naturalWidth || 0, this.image.naturalHeight || 0];
+  }
+
+  // Lays an embedded bitmap into the panorama by its screen corners (see embedded.js).
+  placeEmbedded(corners) {
+    if (!corners || !this.visible || !this.viewer.hotspotsVisible) {
+      this.node.style.display = 'none';
+      return;
+    }
+    const [width, height] = this.bitmapSize();
+    this.node.style.display = '';
+    this.node.style.transformOrigin = '0 0';
+    this.node.style.transform = matrix3d(corners, width, height);
   }
 
   // Moves the node to its screen point; hides it when the point is behind the viewer or off view.

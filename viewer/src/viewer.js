@@ -14,6 +14,7 @@ import { Tweens } from './tween.js';
 import { easing } from './easing.js';
 import { TextBox, createLogo } from './elements.js';
 import { Hotspot } from './hotspots.js';
+import { embeddedCorners } from './embedded.js';
 import { Sound } from './audio.js';
 import { LensFlares } from './lensflare.js';
 import { Input } from './input.js';
@@ -153,7 +154,11 @@ export class Viewer {
     for (const members of node.hotspot || []) {
       if (!members || !members.bitmap) continue;
       const hotspot = new Hotspot(this, members);
-      if (members.bitmaptype === 'embedded' && members.embeddedwidth) hotspot.embeddedWidth = Number(members.embeddedwidth);
+      if (members.bitmaptype === 'embedded' && members.embeddedwidth) {
+        hotspot.embeddedWidth = Number(members.embeddedwidth);
+        hotspot.inPanorama = !this.flat;
+        hotspot.setHover(false);
+      }
       this.hotspotList.push(hotspot);
       this.addElement(hotspot);
     }
@@ -289,11 +294,14 @@ export class Viewer {
 
   placeOverlays(width, height) {
     for (const h of this.hotspotList) {
-      let scale = 0;
-      if (h.embeddedWidth && !this.flat) {
-        const natural = h.image.naturalWidth || 1;
-        scale = (h.embeddedWidth * width) / this.view.hfov / natural;
+      if (h.inPanorama) {
+        const [w, hgt] = h.bitmapSize();
+        h.placeEmbedded(w ? embeddedCorners(this.camera, this.frame3d.left + h.pan, h.tilt, h.embeddedWidth, h.rotate, w, hgt) : null);
+        continue;
       }
+      // Embedded bitmaps of flat pictures: "embeddedwidth" is their width as a share of the picture's.
+      const natural = h.bitmapSize()[0] || 1;
+      const scale = h.embeddedWidth && this.flatView ? (h.embeddedWidth * this.image.width * this.flatView.scale) / natural : 0;
       h.place(this.screenPoint(h.pan, h.tilt, h.unit), scale);
     }
     if (this.lensFlares) this.lensFlares.place((pan, tilt) => this.screenPoint(pan, tilt, 'deg'), width, height);
