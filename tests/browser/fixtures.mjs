@@ -113,8 +113,8 @@ export function buildFixtures(tool, work) {
   exportPage(tool, [pic('hall', 2048, 1024, 32), pic('garden', 2048, 1024, 224), '--settings', tour,
     '--hotspots', hotspots, '--title', 'Great Hall', '-o', out('tour', 'hall.html')]);
 
-  // The hall again, its link bitmap embedded in the panorama 20 degrees wide: the reference host
-  // writes floating bitmaps only, a panorama application also embedded ones.
+  // The hall again, its link bitmap embedded in the panorama 20 degrees wide and with a lens
+  // flare: the reference host writes neither, a panorama application may.
   const hall = fs.readFileSync(path.join(work, 'tour', 'hall.js'), 'utf8');
   const prefix = 'VantoraViewerParams = ';
   const root = JSON.parse(hall.slice(prefix.length));
@@ -123,6 +123,8 @@ export function buildFixtures(tool, work) {
     delete spot.bitmapscale;
     Object.assign(spot, { bitmaptype: 'embedded', embeddedwidth: 20, rotate: 0 });
   }
+  // A lens flare 10 degrees above the start view, as a panorama application writes them.
+  root.vantoraViewer.node.lensflare = [{ pan: 180, tilt: 10, type: 0, brightening: 1, scale: 1 }];
   fs.writeFileSync(path.join(work, 'tour', 'embedded.js'), prefix + JSON.stringify(root));
   fs.writeFileSync(path.join(work, 'tour', 'embedded.html'),
     fs.readFileSync(path.join(work, 'tour', 'hall.html'), 'utf8').replace('"hall.js"', '"embedded.js"'));

@@ -240,6 +240,20 @@ const CHECKS = {
     near(img.x - box.x, W / 2 + k * Math.tan((5 * Math.PI) / 180), 2, 'left edge');
     near(img.x + img.width - box.x, W / 2 + k * Math.tan((25 * Math.PI) / 180), 2, 'right edge');
   },
+  // The lens flare's glow is centred on its pan and tilt.
+  async lensFlare({ page, params }) {
+    const box = await page.locator('#vantoViewerID').boundingBox();
+    const glow = await page.locator('.vanto-flare').boundingBox();
+    const flare = params.node.lensflare[0];
+    const k = W / 2 / Math.tan((params.node.view.hfov * Math.PI) / 360);
+    const rad = Math.PI / 180;
+    const dp = (flare.pan - params.node.view.pan) * rad;
+    const t = flare.tilt * rad;
+    const x = W / 2 + (k * Math.sin(dp)) / Math.cos(dp);
+    const y = H / 2 - (k * Math.tan(t)) / Math.cos(dp);
+    near(glow.x + glow.width / 2 - box.x, x, 2, 'glow x');
+    near(glow.y + glow.height / 2 - box.y, y, 2, 'glow y');
+  },
   async twoViewers({ page }) {
     const ids = await page.evaluate(async () => {
       const viewers = [vantoViewer.get('vantoViewerID'), vantoViewer.get('second')];
@@ -289,7 +303,7 @@ const CASES = [
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay', 'moveMode'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'hotspotPlaces', 'infoHotspot', 'linkHotspot'] },
-  { dir: 'tour', page: 'embedded.html', via: ['file', 'nosniff'], checks: ['embedded'] },
+  { dir: 'tour', page: 'embedded.html', via: ['file', 'nosniff'], checks: ['embedded', 'lensFlare'] },
   { dir: 'tour', page: 'two.html', via: ['file', 'nosniff'], checks: ['twoViewers'] },
   { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
   { dir: 'errors', page: 'missing.html', via: ['http'], checks: ['errorShown'], failure: 'missing', language: 'de-DE' },
