@@ -105,6 +105,23 @@ const CHECKS = {
     await page.evaluate(() => new Promise((r) => { let n = 10; const f = () => (--n ? requestAnimationFrame(f) : r()); f(); }));
     near((await viewerCall(page, 'return v.getView();')).pan, stopped, 0.01, 'pan after release');
   },
+  // The gyroscope: orientation events make it available; enabled, it turns the view with the device.
+  async gyroscope({ page }) {
+    const orient = (alpha, beta, gamma) => page.evaluate((o) => window.dispatchEvent(new DeviceOrientationEvent('deviceorientation', o)), { alpha, beta, gamma });
+    await viewerCall(page, 'v.checkForGyroscope();');
+    await orient(0, 90, 0);
+    assert.equal(await viewerCall(page, 'return v.gyroAvailable;'), true);
+    await viewerCall(page, 'v.setView(100, 0, 90); v.enableGyroscope(true);');
+    assert.equal(await viewerCall(page, 'return v.gyroscopeEnabled();'), true);
+    await orient(0, 90, 0);
+    await orient(-30, 120, 0);
+    const view = await viewerCall(page, 'return v.getView();');
+    near(view.pan, 130, 0.01, 'pan turned with the device');
+    near(view.tilt, 30, 0.01, 'tilt raised with the device');
+    await viewerCall(page, 'v.enableGyroscope(false);');
+    await orient(0, 90, 0);
+    near((await viewerCall(page, 'return v.getView();')).pan, 130, 0.01, 'pan after the gyroscope is off');
+  },
   // The wheel zooms towards the pointer: the colour under it stays, the view narrows.
   async wheelZoom({ page }) {
     const box = await page.locator('#vantoViewerID').boundingBox();
@@ -295,7 +312,7 @@ const CHECKS = {
 // Pages, the ways they are opened, and what each must show.
 const CASES = [
   { dir: 'sample', page: 'sample.html', via: ['file', 'http', 'nosniff'], checks: ['showsPicture'] },
-  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard', 'wheelZoom', 'drag'] },
+  { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard', 'wheelZoom', 'drag', 'gyroscope'] },
   { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
   { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
   { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow', 'hotspotPlaces', 'wheelZoom'] },

@@ -1,5 +1,5 @@
 // The viewer methods that handler and action texts call through `this.viewer`. Features that the
-// viewer does not have yet (VR, gallery, map, the gyroscope's steering) answer harmlessly: see
+// viewer does not have yet (VR, gallery, map) answer harmlessly: see
 // docs/viewer-scripting.md.
 import { run } from './scripting.js';
 import { TextBox } from './elements.js';
@@ -118,26 +118,54 @@ export const methods = {
   enterVRMode() { return false; },
   exitVRMode() { return false; },
 
-  // The gyroscope: reported available when the device sends orientation events.
+  // The gyroscope: reported available when the device sends orientation events; enabled, it
+  // turns the view with the device (the direction its back faces), from the view it had.
+  // Unavailable is answered after a second without events; a device whose first event comes later
+  // is then reported available after all.
   checkForGyroscope() {
     if (this.gyroChecked) return;
     this.gyroChecked = true;
-    let answered = false;
-    const answer = (available) => {
-      if (answered) return;
-      answered = true;
-      window.removeEventListener('deviceorientation', listener);
+    let answer = null;
+    const tell = (available) => {
+      if (answer === available || answer === true) return;
+      answer = available;
+      this.gyroAvailable = available;
       this.fire('ongyroscopeavailable', available);
     };
-    const listener = (e) => answer(e.alpha !== null && e.alpha !== undefined);
+    const listener = (e) => {
+      if (e.alpha === null || e.alpha === undefined) return;
+      window.removeEventListener('deviceorientation', listener);
+      tell(true);
+    };
     window.addEventListener('deviceorientation', listener);
-    setTimeout(() => answer(false), 1000);
+    setTimeout(() => tell(false), 1000);
   },
   gyroscopeEnabled() { return !!this.gyroOn; },
   enableGyroscope(on) {
-    const next = !!on && !!this.gyroAvailable;
+    const next = !!on && !!this.gyroAvailable && !this.flat;
     if (next === !!this.gyroOn) return;
     this.gyroOn = next;
+    if (next) {
+      this.gyroOffset = null;
+      this.gyroListener = (e) => this.steerByDevice(e);
+      window.addEventListener('deviceorientation', this.gyroListener);
+    } else {
+      window.removeEventListener('deviceorientation', this.gyroListener);
+    }
     this.fire('ongyroscopetoggle', next);
+  },
+  steerByDevice(e) {
+    if (e.alpha === null || e.alpha === undefined || this.locked) return;
+    const r = Math.PI / 180;
+    const [a, b, g] = [e.alpha * r, (e.beta || 0) * r, (e.gamma || 0) * r];
+    // The device's back (-z) in the earth frame (x east, y north, z up).
+    const x = -Math.cos(a) * Math.sin(g) - Math.sin(a) * Math.sin(b) * Math.cos(g);
+    const y = -Math.sin(a) * Math.sin(g) + Math.cos(a) * Math.sin(b) * Math.cos(g);
+    const z = -Math.cos(b) * Math.cos(g);
+    const heading = Math.atan2(x, y) / r;
+    const tilt = Math.asin(Math.max(-1, Math.min(1, z))) / r;
+    if (this.gyroOffset === null) this.gyroOffset = this.view.pan - heading;
+    this.userInput();
+    this.setView(this.gyroOffset + heading, tilt, this.view.hfov);
   },
 };
