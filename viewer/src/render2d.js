@@ -6,6 +6,9 @@ export class Canvas2DRenderer {
     this.canvas = canvas;
     this.ctx = canvas.getContext('2d', { alpha: false, willReadFrequently: true });
     this.webgl = false;
+    // The CPU draws every pixel: on high-density screens the canvas keeps CSS pixels and the
+    // browser scales it, which keeps turning the view fluid.
+    this.maxPixelRatio = 1;
   }
 
   begin(width, height, ratio) {

@@ -36,6 +36,7 @@ class WebGLRenderer {
     this.canvas = canvas;
     this.gl = gl;
     this.webgl = true;
+    this.maxPixelRatio = 2;
     const program = gl.createProgram();
     gl.attachShader(program, compile(gl, gl.VERTEX_SHADER, VERTEX));
     gl.attachShader(program, compile(gl, gl.FRAGMENT_SHADER, FRAGMENT));

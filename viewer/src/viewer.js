@@ -236,7 +236,7 @@ export class Viewer {
   // black while tiles load. Returns whether every tile of the level in use is drawn.
   draw() {
     const { width, height } = this.size();
-    const ratio = Math.min(window.devicePixelRatio || 1, 2);
+    const ratio = Math.min(window.devicePixelRatio || 1, this.renderer.maxPixelRatio);
     this.renderer.begin(width, height, ratio);
     if (width < 1 || height < 1) return true;
     let placer;
