@@ -239,6 +239,17 @@ const CHECKS = {
     await page.locator('.vanto-notice button').click();
     assert.equal(await page.locator('.vanto-notice').count(), 0, 'the notice stays after its close button');
   },
+  // Full screen: the viewer's element fills the screen and the viewer draws at that size.
+  async fullscreen({ page }) {
+    assert.equal(await viewerCall(page, 'return v.fullscreenSupported();'), true);
+    await viewerCall(page, 'v.toggleFullscreen();');
+    await page.waitForFunction(() => document.fullscreenElement === document.getElementById('vantoViewerID'));
+    await settled(page);
+    const size = await viewerCall(page, 'return [v.width(), v.height(), window.innerWidth, window.innerHeight];');
+    assert.deepEqual(size.slice(0, 2), size.slice(2), 'viewer size in full screen');
+    await viewerCall(page, 'v.toggleFullscreen();');
+    await page.waitForFunction(() => !document.fullscreenElement);
+  },
   async throwingHandler({ page, errors }) {
     await viewerCall(page, `v.handlers.onresize = "function(){ throw new Error('boom'); }"; v.fire('onresize');`);
     const reported = errors.splice(0).join('\n');
@@ -314,7 +325,7 @@ const CASES = [
   { dir: 'sample', page: 'sample.html', via: ['file', 'http', 'nosniff'], checks: ['showsPicture'] },
   { dir: 'big', page: 'big.html', via: ['file', 'nosniff'], checks: ['startView', 'setView', 'keyboard', 'wheelZoom', 'drag', 'gyroscope'] },
   { dir: 'partial', page: 'partial.html', via: ['file', 'http'], checks: ['startView', 'limits', 'noticeCloses'] },
-  { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'throwingHandler'] },
+  { dir: 'tiny', page: 'tiny.html', via: ['file', 'http'], checks: ['showsPicture', 'fullscreen', 'throwingHandler'] },
   { dir: 'flat', page: 'flat.html', via: ['file', 'nosniff'], checks: ['fitsWindow', 'hotspotPlaces', 'wheelZoom'] },
   { dir: 'media', page: 'media.html', via: ['file', 'http'], checks: ['logoAndSound'] },
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
