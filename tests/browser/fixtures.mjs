@@ -125,6 +125,14 @@ export function buildFixtures(tool, work) {
   }
   // A lens flare 10 degrees above the start view, as a panorama application writes them.
   root.vantoraViewer.node.lensflare = [{ pan: 180, tilt: 10, type: 0, brightening: 1, scale: 1 }];
+  // And an animation strip below the start view: the link bitmap as two frames side by side.
+  const png = fs.readFileSync(path.join(work, 'tour', 'pap_link.png'));
+  const [pngWidth, pngHeight] = [png.readUInt32BE(16), png.readUInt32BE(20)];
+  root.vantoraViewer.node.hotspot.push({
+    bitmap: 'pap_link.png', bitmapscale: '1.0', opacity: '1.00;1.00', bitmaptype: 'floating',
+    position: '180.0000,-20.0000', unit: 'deg', textbox: { text: 'Strip', align: 'top' },
+    animation: { width: Math.floor(pngWidth / 2), height: pngHeight, frames: 2, duration: 0.4 },
+  });
   fs.writeFileSync(path.join(work, 'tour', 'embedded.js'), prefix + JSON.stringify(root));
   fs.writeFileSync(path.join(work, 'tour', 'embedded.html'),
     fs.readFileSync(path.join(work, 'tour', 'hall.html'), 'utf8').replace('"hall.js"', '"embedded.js"'));

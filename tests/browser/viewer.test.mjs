@@ -251,9 +251,9 @@ const CHECKS = {
     await page.waitForFunction(() => !document.fullscreenElement);
   },
   async throwingHandler({ page, errors }) {
-    await viewerCall(page, `v.handlers.onresize = "function(){ throw new Error('boom'); }"; v.fire('onresize');`);
+    await viewerCall(page, `v.handlers.onscenechanged = "function(){ throw new Error('boom'); }"; v.fire('onscenechanged');`);
     const reported = errors.splice(0).join('\n');
-    assert.match(reported, /onresize handler of "mainEvents" failed/, 'a throwing handler is reported');
+    assert.match(reported, /onscenechanged handler of "mainEvents" failed/, 'a throwing handler is reported');
     await viewerCall(page, 'v.setView(30, 0, 80);');
     await settled(page);
     near((await viewerCall(page, 'return v.getView();')).pan, 30, 0.01, 'pan after a throwing handler');
@@ -281,6 +281,16 @@ const CHECKS = {
     const y = H / 2 - (k * Math.tan(t)) / Math.cos(dp);
     near(glow.x + glow.width / 2 - box.x, x, 2, 'glow x');
     near(glow.y + glow.height / 2 - box.y, y, 2, 'glow y');
+  },
+  // An animation strip steps through its frames.
+  async animationStrip({ page }) {
+    const strip = page.locator('.vanto-hotspot[aria-label="Strip"] div').first();
+    await strip.waitFor();
+    const first = await strip.evaluate((d) => getComputedStyle(d).backgroundPositionX);
+    await page.waitForFunction(([, x]) => {
+      const d = document.querySelector('.vanto-hotspot[aria-label="Strip"] div');
+      return getComputedStyle(d).backgroundPositionX !== x;
+    }, [null, first]);
   },
   async twoViewers({ page }) {
     const ids = await page.evaluate(async () => {
@@ -331,7 +341,7 @@ const CASES = [
   { dir: 'intro', page: 'intro.html', via: ['nosniff'], checks: ['intro'] },
   { dir: 'autoplay', page: 'turn.html', via: ['http'], checks: ['autoplay', 'moveMode'] },
   { dir: 'tour', page: 'hall.html', via: ['file', 'nosniff'], checks: ['title', 'startView', 'hotspotPlaces', 'infoHotspot', 'linkHotspot'] },
-  { dir: 'tour', page: 'embedded.html', via: ['file', 'nosniff'], checks: ['embedded', 'lensFlare'] },
+  { dir: 'tour', page: 'embedded.html', via: ['file', 'nosniff'], checks: ['embedded', 'lensFlare', 'animationStrip'] },
   { dir: 'tour', page: 'two.html', via: ['file', 'nosniff'], checks: ['twoViewers'] },
   { dir: 'errors', page: 'missing.html', via: ['file', 'http'], checks: ['errorShown'], failure: 'missing' },
   { dir: 'errors', page: 'missing.html', via: ['http'], checks: ['errorShown'], failure: 'missing', language: 'de-DE' },
