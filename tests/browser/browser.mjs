@@ -46,8 +46,10 @@ export async function openViewer(context, url, { expectFailure = false, language
   return { page, errors, outcome };
 }
 
+// Resolves 'ready', 'failed: reason', or 'timeout' when neither comes within a minute.
 export function waitReady(page) {
   return page.evaluate(() => new Promise((resolve) => {
+    setTimeout(() => resolve('timeout'), 60000);
     const poll = () => {
       const v = window.vantoViewer && window.vantoViewer.get('vantoViewerID');
       if (!v) { requestAnimationFrame(poll); return; }
