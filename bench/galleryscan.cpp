@@ -1,9 +1,11 @@
-// How long the tour gallery takes to collect a folder of earlier exports, against the time to
-// merely read the same bytes. Not a test: run it by hand and compare the figures.
+// How long the tour gallery takes to collect a folder of earlier exports, read afresh and with
+// the entries remembered from the previous export, against the time to merely read the same
+// bytes. Not a test: run it by hand and compare the figures.
 //
 //   bench_gallery_scan [COUNT...]      (default: 100 300 1000)
 #include "viewerparams/galleryfile.h"
 #include "viewerparams/memberwriter.h"
+#include "viewerparams/tourfolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -66,7 +68,7 @@ int main(int argc, char **argv)
         }
     }
     QTextStream out(stdout);
-    out << "exports  bytes      scan ms  read ms  ratio  scan us/file\n";
+    out << "exports  bytes      scan ms  read ms  ratio  scan us/file  rescan ms\n";
     for (const QString &count : counts) {
         const int n = count.toInt();
         QTemporaryDir dir;
@@ -90,14 +92,23 @@ int main(int argc, char **argv)
             }
         });
         const double scanMs = medianMs([&] {
-            params::writeGalleryFile(folder, "vantoViewerGallery.json", "current.json", "", {});
+            params::TourFolderReader fresh;
+            params::writeGalleryFile(
+                folder, "vantoViewerGallery.json", "current.json", "", {}, fresh);
+        });
+        params::TourFolderReader remembering(0);
+        const double rescanMs = medianMs([&] {
+            params::writeGalleryFile(
+                folder, "vantoViewerGallery.json", "current.json", "", {}, remembering);
         });
         out << qSetFieldWidth(7) << n << qSetFieldWidth(0) << "  " << qSetFieldWidth(9) << bytes
             << qSetFieldWidth(0) << "  " << qSetFieldWidth(7) << QString::number(scanMs, 'f', 1)
             << qSetFieldWidth(0) << "  " << qSetFieldWidth(7) << QString::number(readMs, 'f', 1)
             << qSetFieldWidth(0) << "  " << qSetFieldWidth(5)
             << QString::number(scanMs / readMs, 'f', 1) << qSetFieldWidth(0) << "  "
-            << QString::number(1000.0 * scanMs / (2 * n), 'f', 1) << '\n';
+            << qSetFieldWidth(12) << QString::number(1000.0 * scanMs / (2 * n), 'f', 1)
+            << qSetFieldWidth(0) << "  " << qSetFieldWidth(9) << QString::number(rescanMs, 'f', 1)
+            << qSetFieldWidth(0) << '\n';
     }
     return 0;
 }

@@ -4,6 +4,7 @@
 #include "exportrun.h"
 #include "pluginstate.h"
 #include "settings/settingsblock.h"
+#include "translation.h"
 
 #include <cstring>
 
@@ -73,9 +74,11 @@ void runCommand(std::uint32_t command, HostContext *host, std::uint64_t *inout)
     std::uint64_t &result = inout ? *inout : unused;
     switch (command) {
     case VANTORA_PREPARE:
+        followHostLanguage();
         result = host ? prepareExport(*host) : 0;
         break;
     case VANTORA_WRITE:
+        followHostLanguage();
         result = host ? writeExport(*host) : std::uint64_t(VANTORA_WRITE_DONE);
         break;
     case VANTORA_SAVE_SETTINGS:

@@ -1,6 +1,7 @@
 #include "exportrun.h"
 
 #include "defaultview.h"
+#include "dialogs/targetprompt.h"
 #include "exportjob.h"
 #include "hostaccess.h"
 #include "messages.h"
@@ -26,13 +27,6 @@ QString sizeLine(std::uint64_t kb)
     return QString::asprintf("            (%d KB)\n", int(kb));
 }
 
-// The export's target path from the main dialog; empty when the user cancelled. The dialog is
-// not built yet, so an interactive export ends here as if cancelled.
-QString askForTargetPath(HostContext &)
-{
-    return QString();
-}
-
 } // namespace
 
 std::uint64_t prepareExport(HostContext &host)
@@ -55,7 +49,8 @@ std::uint64_t prepareExport(HostContext &host)
         && host.imageWidth == state.previousWidth && host.imageHeight == state.previousHeight;
     job.scale = sameDocument ? state.storedScale : 100;
 
-    const QString target = host.nonInteractive ? fromHost(host.pathBuffer) : askForTargetPath(host);
+    const QString target
+        = host.nonInteractive ? fromHost(host.pathBuffer) : dialogs::runMainDlg(host, job);
     if (!target.isEmpty()) {
         job.targetPath = target;
         job.viewerFolder = job.userFolder = job.imageFolder = outputFolderOf(target);

@@ -21,4 +21,7 @@ void showCritical(QWidget *parent, const QString &title, const QString &text);
 // A question box with Yes and No, Yes the default. False when it cannot be shown.
 bool askYesNo(QWidget *parent, const QString &title, const QString &text);
 
+// The same choice in a warning box, for questions about replacing a user's file.
+bool askWarningYesNo(QWidget *parent, const QString &title, const QString &text);
+
 } // namespace vantora::plugin

@@ -58,6 +58,8 @@ struct PluginState
     std::uint32_t previousHeight = 0;
     std::uint32_t storedScale = 100;
     ExportJob job;
+    // The job the open main dialog edits, for the dialogs opened from it.
+    ExportJob *dialogJob = nullptr;
 };
 
 PluginState &pluginState();

@@ -5,7 +5,7 @@ set -euo pipefail
 
 PACKAGES=(
   build-essential cmake ninja-build pkg-config
-  qtbase5-dev qtbase5-dev-tools libqt5svg5-dev
+  qtbase5-dev qtbase5-dev-tools libqt5svg5-dev qttools5-dev qttools5-dev-tools
   nodejs binutils g++-mingw-w64-x86-64-posix
   clang libclang-rt-14-dev
   libgl1-mesa-dev fonts-dejavu-core

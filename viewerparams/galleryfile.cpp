@@ -1,63 +1,37 @@
 #include "galleryfile.h"
 
+#include "galleryentry.h"
+#include "tourfolder.h"
+
 #include "plugin/paths.h"
 
-#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
+
+#include <algorithm>
 
 namespace vantora::params {
 namespace {
 
-const QByteArray PARAMS_PREFIX = QByteArrayLiteral("VantoraViewerParams = ");
+// Enough for a parameter file or a controls file in one read; a longer file is read on only when
+// its head shows the prefix.
+constexpr qint64 HEAD_BYTES = 64 * 1024;
 
-// A parameter file holds a few kilobytes, with many hotspots some hundred; a file far beyond
-// that is no parameter file of ours, and reading it whole would stall the export.
-constexpr qint64 MAX_PARAMS_FILE_BYTES = 64 * 1024 * 1024;
-
-// The oldest parameter files a tour may link: earlier formats lack what the viewer needs.
-constexpr double MIN_VERSION = 4.0;
-
-// Changes the process's current directory for the lifetime of the object.
-class CurrentDirectory
+// The file's bytes as listed, when they may hold a parameter file; an empty array when they
+// cannot. The listing is the scan's view of the folder: a file that grows after it is read up
+// to its listed size, and its new stamp has it read again at the next scan.
+QByteArray readCandidate(const QString &path, qint64 listedSize)
 {
-public:
-    explicit CurrentDirectory(const QString &folder)
-        : m_previous(QDir::currentPath())
-        , m_entered(QDir::setCurrent(folder))
-    { }
-    ~CurrentDirectory()
-    {
-        if (m_entered)
-            QDir::setCurrent(m_previous);
-    }
-    bool entered() const { return m_entered; }
-
-private:
-    QString m_previous;
-    bool m_entered;
-};
-
-bool hasSupportedVersion(const QJsonObject &viewer)
-{
-    const QJsonValue version = viewer.value(QStringLiteral("version"));
-    if (version.isDouble())
-        return version.toDouble() >= MIN_VERSION;
-    if (!version.isString())
-        return false;
-    bool ok = false;
-    const double number = version.toString().toDouble(&ok);
-    return ok && number >= MIN_VERSION;
-}
-
-// The names of the folder's viewer files, in the order the product's platform lists them.
-QStringList viewerFileNames(const QString &folder)
-{
-    // Windows lists a folder in name order ignoring case; sorting the same way everywhere keeps
-    // a tour's order the same wherever it was exported.
-    return QDir(folder).entryList(
-        {QStringLiteral("*.json"), QStringLiteral("*.jsonp"), QStringLiteral("*.js")},
-        QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Name | QDir::IgnoreCase);
+    QFile file(path);
+    if (listedSize > MAX_PARAMS_FILE_BYTES
+        || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return {};
+    QByteArray bytes = file.read(std::min(listedSize, HEAD_BYTES));
+    if (!mayBeParamsFile(bytes, bytes.size() < HEAD_BYTES))
+        return {};
+    if (bytes.size() == HEAD_BYTES)
+        bytes += file.read(listedSize - HEAD_BYTES);
+    return bytes;
 }
 
 } // namespace
@@ -77,63 +51,38 @@ void addGalleryEntry(QJsonArray &gallery, const QString &paramsFileName, const Q
     gallery.append(entry);
 }
 
-void readGalleryEntry(QJsonArray &gallery, const QString &fileName)
+void readGalleryEntry(
+    QJsonArray &gallery, const QString &folder, const QString &fileName, qint64 listedSize)
 {
-    QFile file(fileName);
-    if (file.size() > MAX_PARAMS_FILE_BYTES || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+    const QByteArray bytes = readCandidate(folder + fileName, listedSize);
+    if (bytes.isEmpty())
         return;
-    // The prefix decides before the rest is read: a large script of some other kind costs one
-    // short read. A byte-order mark or a blank in front means some other writer: not ours.
-    if (file.peek(PARAMS_PREFIX.size()) != PARAMS_PREFIX)
-        return;
-    QByteArray text = file.readAll();
-    // A member list that ends in a separator gets its object closed once more.
-    if (text.endsWith(",\n}\n}"))
-        text.append("\n}\n}");
-
-    const QJsonDocument document = QJsonDocument::fromJson(text.mid(PARAMS_PREFIX.size()));
-    const QJsonObject viewer = document.object().value(QStringLiteral("vantoraViewer")).toObject();
-    if (!hasSupportedVersion(viewer))
-        return;
-    // The panorama is described by "image" when present, else by "node".
-    QJsonObject panorama = viewer.value(QStringLiteral("image")).toObject();
-    if (!viewer.value(QStringLiteral("image")).isObject()) {
-        if (!viewer.value(QStringLiteral("node")).isObject())
-            return;
-        panorama = viewer.value(QStringLiteral("node")).toObject();
-    }
-    const QString description = panorama.value(QStringLiteral("view"))
-                                    .toObject()
-                                    .value(QStringLiteral("shortdescription"))
-                                    .toString();
-    addGalleryEntry(
-        gallery, fileName, description, panorama.value(QStringLiteral("location")).toObject());
+    if (const std::optional<PanoramaSummary> panorama = panoramaFromBytes(bytes))
+        addGalleryEntry(gallery, fileName, panorama->text, panorama->location);
 }
 
 QJsonObject writeGalleryFile(const QString &outputFolder, const QString &galleryFileName,
     const QString &paramsFileName, const QString &description, const QJsonObject &location)
 {
+    return writeGalleryFile(outputFolder, galleryFileName, paramsFileName, description, location,
+        processTourFolderReader());
+}
+
+QJsonObject writeGalleryFile(const QString &outputFolder, const QString &galleryFileName,
+    const QString &paramsFileName, const QString &description, const QJsonObject &location,
+    TourFolderReader &reader)
+{
     QJsonArray gallery;
     addGalleryEntry(gallery, paramsFileName, description, location);
-
-    QStringList names = viewerFileNames(outputFolder);
-    names.removeOne(paramsFileName);
-    {
-        // Entries name their files relative to the folder, as the viewer loads them.
-        const CurrentDirectory inFolder(outputFolder);
-        if (inFolder.entered())
-            for (const QString &name : qAsConst(names))
-                readGalleryEntry(gallery, name);
-    }
+    reader.appendEarlierExports(gallery, outputFolder, paramsFileName);
 
     const QJsonObject include {{QStringLiteral("src"), galleryFileName}};
+    const QByteArray text = "VantoraViewerParams = {\n\"vantoraViewer\":\n"
+        + QJsonDocument(QJsonObject {{QStringLiteral("gallery"), gallery}}).toJson() + "\n}";
     // Written byte for byte: the layout's line feeds stay line feeds on every platform.
     QFile file(plugin::toNativeSeparators(outputFolder + galleryFileName));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return include;
-    file.write("VantoraViewerParams = {\n\"vantoraViewer\":\n");
-    file.write(QJsonDocument(QJsonObject {{QStringLiteral("gallery"), gallery}}).toJson());
-    file.write("\n}");
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(text);
     return include;
 }
 

@@ -3,7 +3,39 @@
 
 #include <QString>
 
+#include <cstdint>
+#include <vector>
+
 namespace vantora::platform {
+
+// What tells one state of a file from another without reading it: a file written since, or
+// another file put in its place, differs in at least one member.
+struct FileStamp
+{
+    std::int64_t size = 0;
+    std::int64_t modifiedNs = 0; // last write, nanoseconds since 1970
+    std::int64_t changedNs = 0;  // last change of content or metadata (a rename, a replacement)
+    std::uint64_t volume = 0;    // device or volume serial number
+    std::uint64_t fileId = 0;    // inode or file index, unique on its volume while the file lives
+
+    bool operator==(const FileStamp &other) const
+    {
+        return size == other.size && modifiedNs == other.modifiedNs && changedNs == other.changedNs
+            && volume == other.volume && fileId == other.fileId;
+    }
+    bool operator!=(const FileStamp &other) const { return !(*this == other); }
+};
+
+struct ListedFile
+{
+    QString name; // without the folder
+    FileStamp stamp;
+};
+
+// The plain files of `folder` (no folders, links or devices) whose names `wanted` accepts, in
+// the order the system lists them, with their stamps: one pass over the folder. Empty when the
+// folder cannot be listed.
+std::vector<ListedFile> listPlainFiles(const QString &folder, bool (*wanted)(const QString &name));
 
 // Copies `from` to `to`, replacing an existing file. False when the copy failed; copying a file
 // onto itself succeeds and leaves it alone.

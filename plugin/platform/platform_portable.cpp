@@ -8,7 +8,19 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
 namespace vantora::platform {
+namespace {
+
+std::int64_t nanoseconds(const timespec &time)
+{
+    return std::int64_t(time.tv_sec) * 1000000000 + time.tv_nsec;
+}
+
+} // namespace
 
 bool copyFileReplacing(const QString &from, const QString &to)
 {
@@ -57,6 +69,42 @@ bool writeProfileString(
     const QString &path, const QString &section, const QString &key, const QString &value)
 {
     return settings::ini::writeString(path, section, key, value);
+}
+
+std::vector<ListedFile> listPlainFiles(const QString &folder, bool (*wanted)(const QString &name))
+{
+    std::vector<ListedFile> files;
+    DIR *dir = opendir(QFile::encodeName(folder).constData());
+    if (!dir)
+        return files;
+    const int dirFd = dirfd(dir);
+    while (const dirent *entry = readdir(dir)) {
+        // The type from the listing spares a stat of every folder and link the name does not
+        // already rule out; some file systems leave it unknown.
+        if (entry->d_type != DT_REG && entry->d_type != DT_UNKNOWN)
+            continue;
+        const QString name = QFile::decodeName(entry->d_name);
+        if (!wanted(name))
+            continue;
+        struct stat status;
+        if (fstatat(dirFd, entry->d_name, &status, AT_SYMLINK_NOFOLLOW) != 0
+            || !S_ISREG(status.st_mode))
+            continue;
+        FileStamp stamp;
+        stamp.size = status.st_size;
+#ifdef __APPLE__
+        stamp.modifiedNs = nanoseconds(status.st_mtimespec);
+        stamp.changedNs = nanoseconds(status.st_ctimespec);
+#else
+        stamp.modifiedNs = nanoseconds(status.st_mtim);
+        stamp.changedNs = nanoseconds(status.st_ctim);
+#endif
+        stamp.volume = std::uint64_t(status.st_dev);
+        stamp.fileId = std::uint64_t(status.st_ino);
+        files.push_back({name, stamp});
+    }
+    closedir(dir);
+    return files;
 }
 
 } // namespace vantora::platform

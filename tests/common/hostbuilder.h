@@ -16,13 +16,16 @@ namespace vantora::test {
 
 // Offsets of the HostContext fields the tests use.
 namespace at {
-constexpr std::size_t DocumentId = 0, ImageWidth = 12, ImageHeight = 16, Start = 32, Close = 40;
+constexpr std::size_t DocumentId = 0, HideFovButton = 8, ImageWidth = 12, ImageHeight = 16;
+constexpr std::size_t Start = 32, Close = 40, ParentWindow = 168, PreviewCookie = 264,
+                      Preview = 288;
 constexpr std::size_t UpperEdge = 48, LowerEdge = 56, StartPan = 72, EndPan = 80;
 constexpr std::size_t PathBuffer = 184, Hotspots = 208, OutputPath = 216, InstallFolder = 232;
 constexpr std::size_t SettingsFolder = 280, ViewPan = 328, ViewTilt = 336, ViewHfov = 344;
 constexpr std::size_t ViewMinHfov = 352, ViewMaxHfov = 360, WriteTiles = 368, ExportResource = 376;
+constexpr std::size_t UiScale = 384, DialogHook = 392;
 constexpr std::size_t FlatImage = 432, PageWidth = 436, PageHeight = 440, FitToPage = 444;
-constexpr std::size_t LinearVertical = 448, NonInteractive = 464;
+constexpr std::size_t LinearVertical = 448, JpegQuality = 456, NonInteractive = 464;
 } // namespace at
 
 class HostBuilder

@@ -3,9 +3,13 @@
 
 #include "viewerparams/galleryfile.h"
 #include "viewerparams/memberwriter.h"
+#include "viewerparams/tourfolder.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QtTest>
+
+#include <cstdio>
 
 using namespace vantora;
 
@@ -52,6 +56,7 @@ private slots:
     void collectsEarlierExports();
     void passesOverForeignFiles_data();
     void passesOverForeignFiles();
+    void rememberedEntriesMatchAFreshScan();
     void unwritableGalleryFile();
     void parameterFileIncludesGallery();
 };
@@ -128,7 +133,12 @@ void tst_GalleryFile::passesOverForeignFiles_data()
     QTest::newRow("separator before the end")     << "a.json"  << ours + "\"4.1\",\n}\n}" << false;
     // A link to an export elsewhere, and an export too large to be ours: neither is read.
     QTest::newRow("symbolic link")                << "a.json"  << QByteArray("link") << false;
-    QTest::newRow("over 64 MiB")                  << "a.js"    << PREFIX + QByteArray(65 << 20, ' ') + body + "4\n}\n}" << false;
+    QTest::newRow("over 16 MiB")                  << "a.js"    << PREFIX + QByteArray(16 << 20, ' ') + body + "4\n}\n}" << false;
+    // Read as text: carriage returns go wherever they stand, the prefix's included.
+    QTest::newRow("carriage returns")             << "a.json"  << QByteArray(ours + "\"4.1\"\n}\n}").replace('\n', "\r\n").replace("Viewer", "View\rer") << true;
+    // The JSON reader resolves escapes, unknown ones to the character itself.
+    QTest::newRow("version spelled with escapes") << "a.json"  << PREFIX + "{\"vantoraViewer\": {\"node\": {}, \"\\u0076\\ersion\": 4}}" << true;
+    QTest::newRow("version only as a value")      << "a.json"  << PREFIX + "{\"vantoraViewer\": {\"node\": {\"id\": \"version\"}}}" << false;
     // clang-format on
 }
 
@@ -151,6 +161,61 @@ void tst_GalleryFile::passesOverForeignFiles()
     const QJsonArray gallery = entries(dir.path() + "/g.json");
     QCOMPARE(gallery.size(), taken ? 2 : 1);
     QCOMPARE(gallery.last()["href"].toString(), taken ? name : "tour.json");
+}
+
+void tst_GalleryFile::rememberedEntriesMatchAFreshScan()
+{
+    QTemporaryDir dir;
+    const QString out = dir.path() + '/';
+    writeExport(out + "alster.json", "4.1", "Alster");
+    writeExport(out + "burg.json", "4.1", "Burg", HAMBURG);
+    // A time the replacement below can be given to the nanosecond.
+    const QDateTime modified(QDate(2026, 1, 2), QTime(12, 0), Qt::UTC);
+    QFile burg(out + "burg.json");
+    QVERIFY(burg.open(QIODevice::ReadWrite)
+        && burg.setFileTime(modified, QFileDevice::FileModificationTime));
+    burg.close();
+    writeExport(out + "dom.js", "4.1", "Dom");
+    QVERIFY(params::writeViewerParamsFile(out + "dom_controls.js",
+        QJsonObject {{"events", QJsonObject {{"id", "mainEvents"}}}}, params::Layout::Plain));
+    // Trusts every stamp at once, so that only the stamps tell a changed file from the one read.
+    params::TourFolderReader remembering(0);
+    int readBefore = 0;
+    const auto exportAndCompare = [&](int filesToRead, const QStringList &hrefs) {
+        params::writeGalleryFile(out, "g.json", "tour.json", "Hafen", {}, remembering);
+        const QByteArray remembered = test::readFileBytes(out + "g.json");
+        params::TourFolderReader fresh;
+        params::writeGalleryFile(out, "g.json", "tour.json", "Hafen", {}, fresh);
+        QCOMPARE(remembered, test::readFileBytes(out + "g.json"));
+        QCOMPARE(remembering.filesRead() - readBefore, filesToRead);
+        readBefore = remembering.filesRead();
+        QStringList listed;
+        for (const QJsonValue entry : entries(out + "g.json"))
+            listed << entry["href"].toString() + '=' + entry["text"].toString();
+        QCOMPARE(listed, hrefs);
+    };
+    exportAndCompare(4, {"tour.json=Hafen", "alster.json=Alster", "burg.json=Burg", "dom.js=Dom"});
+    // Unchanged: only the gallery file, rewritten by the fresh scan, is read again.
+    exportAndCompare(1, {"tour.json=Hafen", "alster.json=Alster", "burg.json=Burg", "dom.js=Dom"});
+
+    writeExport(out + "alster.json", "4.1", "Alster bei Nacht"); // changed
+    writeExport(out + "elbe.json", "4.1", "Elbe");               // added
+    QVERIFY(QFile::remove(out + "dom.js"));                      // removed
+    // Replaced by another file of the same size and modification time, as a copy that keeps
+    // the original's time would: only the file's identity tells them apart.
+    QVERIFY(burg.open(QIODevice::ReadOnly));
+    const QByteArray replacement = burg.readAll().replace("\"Burg\"", "\"Berg\"");
+    burg.close();
+    QFile beside(out + "burg.new");
+    QVERIFY(beside.open(QIODevice::WriteOnly) && beside.write(replacement) == replacement.size());
+    QVERIFY(beside.flush());
+    QVERIFY(beside.setFileTime(modified, QFileDevice::FileModificationTime));
+    beside.close();
+    QVERIFY(
+        ::rename(QFile::encodeName(out + "burg.new"), QFile::encodeName(out + "burg.json")) == 0);
+    QCOMPARE(QFileInfo(out + "burg.json").lastModified(), modified);
+    exportAndCompare(
+        4, {"tour.json=Hafen", "alster.json=Alster bei Nacht", "burg.json=Berg", "elbe.json=Elbe"});
 }
 
 void tst_GalleryFile::unwritableGalleryFile()

@@ -79,7 +79,8 @@ HostRecord::HostRecord(const PageJob &job)
     // The tool's pictures are equirectangular: tilt runs linearly down the rows.
     host.linearVertical = 1;
     host.jpegQuality = std::uint32_t(job.quality);
-    host.nonInteractive = 1;
+    host.parentWindow = job.parentWindow;
+    host.nonInteractive = job.parentWindow ? 0 : 1;
 }
 
 HostRecord &HostRecord::ownerOf(HostContext *host)

@@ -33,6 +33,8 @@ struct PageJob
     QString installFolder;  // ends in a separator
     QString settingsFolder; // ends in a separator
     std::function<void(int percent)> progress;
+    // Non-null: an interactive export, the library's dialogs open over this QWidget.
+    void *parentWindow = nullptr;
 };
 
 // What the tile writer did, for the summary and the error line.

@@ -8,14 +8,16 @@
 #include "resources/resources.h"
 #include "settingsfile.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QWidget>
 
 #include <deque>
+#include <memory>
 
 namespace {
 
@@ -54,15 +56,28 @@ void filterQtMessages(QtMsgType type, const QMessageLogContext &context, const Q
         QTextStream(stderr) << qFormatLogMessage(type, context, message) << '\n';
 }
 
+// Decided before the application exists: only an interactive run needs widgets and a desktop.
+bool asksForDialogs(int argc, char *argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        if (qstrcmp(argv[i], "--interactive") == 0)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    // The tool never shows a window: draw offscreen unless told otherwise.
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    // Without --interactive the tool never shows a window: draw offscreen unless told otherwise.
+    const bool dialogs = asksForDialogs(argc, argv);
+    if (!dialogs && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     standardHandler = qInstallMessageHandler(filterQtMessages);
-    QGuiApplication app(argc, argv);
+    const std::unique_ptr<QGuiApplication> app = dialogs
+        ? std::make_unique<QApplication>(argc, argv)
+        : std::make_unique<QGuiApplication>(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("vantora-export"));
     // The map markers the library asks the host to export are the library's own pictures; the
     // tool carries them through the library's sources it links anyway.
@@ -105,6 +120,12 @@ int main(int argc, char *argv[])
     const FolderSnapshot before = snapshotFolder(folder);
     if (!QDir().mkpath(folder))
         return fail(EXIT_EXPORT_FAILED, QStringLiteral("cannot make the folder %1").arg(folder));
+    // The window the library's dialogs belong to, as a panorama application's main window.
+    std::unique_ptr<QWidget> parentWindow;
+    if (options.interactive) {
+        parentWindow = std::make_unique<QWidget>();
+        parentWindow->setWindowTitle(QStringLiteral("vantora-export"));
+    }
     QTextStream out(stdout);
     QStringList pageLines;
     ProgressLine progress(stderrIsTerminal());
@@ -127,6 +148,7 @@ int main(int argc, char *argv[])
         job.installFolder = options.installFolder;
         job.settingsFolder = QDir::toNativeSeparators(settingsFolder.path() + QLatin1Char('/'));
         job.progress = [&progress](int percent) { progress.update(percent); };
+        job.parentWindow = parentWindow.get();
 
         HostRecord host(job);
         progress.start(QStringLiteral("%1 (%2/%3)").arg(page.name).arg(i + 1).arg(pages.size()));
@@ -136,6 +158,13 @@ int main(int argc, char *argv[])
         exportMs += clock.elapsed();
         tilesMs += host.tiles().elapsedMs;
         progress.finish();
+        // Cancelled in the dialog: the library wrote nothing, and neither did the tool.
+        if (options.interactive && outcome.result == VANTORA_WRITE_DONE
+            && outcome.pagePath.isEmpty()) {
+            removeCreatedFolders(plan);
+            QTextStream(stderr) << "vantora-export: export cancelled\n";
+            return 0;
+        }
         if (outcome.result != VANTORA_WRITE_DONE || outcome.pagePath.isEmpty()) {
             // A failed export leaves nothing of this run behind.
             removeNewFiles(folder, before);
@@ -163,7 +192,9 @@ int main(int argc, char *argv[])
     // Printed once every page is done: a failed tour names no page as written.
     for (const QString &line : qAsConst(pageLines))
         out << line << '\n';
-    printSummary(out, folder, before, snapshotFolder(folder));
+    // In the dialog the user may have chosen another folder; the summary covers the proposed one.
+    if (!options.interactive)
+        printSummary(out, folder, before, snapshotFolder(folder));
     out << QStringLiteral(
         "export time: %1 s, of which tiles %2 s and the library's own files %3 s\n")
                .arg(exportMs / 1000.0, 0, 'f', 3)

@@ -104,8 +104,11 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
     const QCommandLineOption library(QStringLiteral("library"),
         QStringLiteral("The export library to load (default: the build's)."),
         QStringLiteral("FILE"), defaultLibrary);
+    const QCommandLineOption interactive(QStringLiteral("interactive"),
+        QStringLiteral("Shows the library's export dialog on the desktop, as a panorama "
+                       "application does: OUT.html is only proposed there. One image at most."));
     parser.addOptions({help, output, flat, hextent, vextent, quality, pageSize, fit, hotspots,
-        location, settingsFile, title, install, library});
+        location, settingsFile, title, install, library, interactive});
 
     auto error = [message](const QString &text) {
         *message = text;
@@ -173,6 +176,9 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
     options->installFolder = QDir::toNativeSeparators(
         QFileInfo(parser.value(install)).absoluteFilePath() + QLatin1Char('/'));
     options->libraryPath = parser.value(library);
+    options->interactive = parser.isSet(interactive);
+    if (options->interactive && options->images.size() > 1)
+        return error(QStringLiteral("--interactive exports one image at a time"));
     return ParseResult::Run;
 }
 

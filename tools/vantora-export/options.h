@@ -31,7 +31,8 @@ struct CliOptions
     QString settingsFile;         // a preset INI file; empty: the library's defaults
     std::optional<QString> title; // replaces the settings' title
     std::optional<Location> location;
-    QString installFolder; // ends in a separator
+    bool interactive = false; // the library's dialogs choose; --output is only proposed
+    QString installFolder;    // ends in a separator
     QString libraryPath;
 };
 

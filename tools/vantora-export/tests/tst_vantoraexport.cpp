@@ -348,6 +348,7 @@ private Q_SLOTS:
             {"page size",          "-o @/out/x.html --page-size 800",       "--page-size must be WIDTHxHEIGHT"},
             {"vextent 200",        "-o @/out/x.html --vextent 200",         "--vextent must be above 0 and at most 180"},
             {"location",           "-o @/out/x.html --location 91,10",      "--location must be LAT,LNG[,NORTH]"},
+            {"interactive tour",   "@/good.jpg @/sub/good.jpg -o @/out/x.html --interactive", "--interactive exports one image at a time"},
             {"two pages one name", "@/good.jpg @/sub/good.jpg -o @/out/good.html", "two pages would be named good.html"},
             {"hotspots not JSON",  "-o @/out/x.html --hotspots @/text.jpg", "@/text.jpg: illegal value at byte 1"},
             {"hotspot type",       "-o @/out/x.html --hotspots @/badtype.json", "@/badtype.json: hotspot 1: \"type\" must be \"link\" or \"info\""},

@@ -1,0 +1,8 @@
+VantoraViewerParams = {
+"vantoraViewer": {
+"events": {
+    "id": "mainEvents",
+    "onload": "function() { viewer.version = \"1\"; }"
+}
+}
+}
