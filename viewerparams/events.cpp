@@ -2,6 +2,7 @@
 
 #include "actions.h"
 #include "eventtexts.h"
+#include "plugin/cformat.h"
 
 namespace vantora::params {
 namespace {
@@ -53,7 +54,7 @@ void buildMainEvents(QJsonObject &controlsRoot, QJsonArray &actions, const Event
 
     QString oninit = assembled(INIT_HEAD, gyroInUse, INIT_GYRO, "");
     if (flags.littlePlanetIntro)
-        oninit += QString::asprintf(INIT_LITTLE_PLANET_FORMAT, view.pan, view.tilt, view.hfov);
+        oninit += plugin::cFormatText(INIT_LITTLE_PLANET_FORMAT, view.pan, view.tilt, view.hfov);
     oninit += QLatin1String(INIT_TAIL);
 
     QJsonObject events;
