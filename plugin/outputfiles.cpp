@@ -3,6 +3,7 @@
 #include "exportjob.h"
 #include "hostaccess.h"
 #include "messages.h"
+#include "outputstage.h"
 #include "pagewriter.h"
 #include "paths.h"
 #include "platform/platform.h"
@@ -18,14 +19,15 @@ namespace vantora::plugin {
 namespace {
 
 // Copies a user file (logo, sound) next to the page; returns its name there, empty when the
-// setting is empty. A failed copy is not reported: the file list shows what the disk holds.
+// setting is empty. A source that cannot be read is not reported: the file list shows what the
+// disk holds. A name the export's own files take is left to them.
 QString copyUserFile(const QString &source, const QString &folder)
 {
     if (source.isEmpty())
         return QString();
     const QString name = fileNamePart(source);
-    if (platform::copyFileReplacing(source, folder + name))
-        platform::clearReadOnly(folder + name);
+    if (!stage::isReserved(folder + name))
+        stage::copyFile(source, folder + name);
     return name;
 }
 
@@ -49,8 +51,12 @@ std::uint64_t folderSize(const QString &folder)
 
 bool testWritable(const QString &path, QWidget *parent)
 {
-    QFile file(path);
-    const bool existed = file.exists();
+    // A link in place of the page is replaced, not written through: what counts is whether a
+    // file can be made beside it.
+    const bool link = platform::isLink(path);
+    const QString probe = link ? path + QStringLiteral(".vantora-test") : path;
+    QFile file(probe);
+    const bool existed = !link && file.exists();
     if (file.open(QIODevice::ReadWrite)) {
         file.close();
         // The page is written last; an export that fails before must not leave an empty one.
@@ -87,9 +93,15 @@ int writeAllFiles(HostContext &host, const WriteRequest &request, std::uint64_t 
         host.start(nullptr);
     *imageDataBytes = 0;
 
+    // Every file of the export reaches its final name only once all of them have been written,
+    // so that a failure leaves the earlier export in the folder as it was.
     const QString viewerCopy = request.viewerFolder + QStringLiteral("vantoViewer.js");
-    if (platform::copyFileReplacing(viewerScriptSource(host), viewerCopy))
-        platform::clearReadOnly(viewerCopy);
+    const QString galleryFile = galleryFileName(settings.ExtensionJS);
+    stage::begin({viewerCopy, request.viewerFolder + request.pageName,
+        request.viewerFolder + request.paramsFile, request.viewerFolder + request.controlsFile,
+        request.viewerFolder + galleryFile});
+    if (!stage::copyFile(viewerScriptSource(host), viewerCopy))
+        stage::reportFailure(viewerCopy);
     settings.LogoFile = copyUserFile(settings.LogoImage, request.userFolder);
     settings.SoundFile = copyUserFile(settings.Sound, request.userFolder);
 
@@ -101,12 +113,9 @@ int writeAllFiles(HostContext &host, const WriteRequest &request, std::uint64_t 
     input.outputWidth = job.outputWidth;
     input.outputHeight = job.outputHeight;
     input.scalePercent = job.scale;
-    const bool written = params::writeViewerParams(input, request.viewerFolder, request.paramsFile,
-                             request.controlsFile, galleryFileName(settings.ExtensionJS))
+    bool written = params::writeViewerParams(input, request.viewerFolder, request.paramsFile,
+                       request.controlsFile, galleryFile)
         != 0;
-
-    const QString base = withoutExtension(request.pageName);
-    *imageDataBytes += folderSize(request.imageFolder + base + QStringLiteral("_tiles"));
 
     if (written) {
         PageInput page;
@@ -119,6 +128,10 @@ int writeAllFiles(HostContext &host, const WriteRequest &request, std::uint64_t 
         page.showWebGLWarning = settings.ShowWebGLWarning;
         writePage(request.viewerFolder + request.pageName, page);
     }
+    written = written && !stage::failed() ? stage::commit() : (stage::discard(), false);
+
+    const QString base = withoutExtension(request.pageName);
+    *imageDataBytes += folderSize(request.imageFolder + base + QStringLiteral("_tiles"));
 
     if (host.close)
         host.close(&host);

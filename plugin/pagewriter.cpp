@@ -1,21 +1,53 @@
 #include "pagewriter.h"
 
+#include "cformat.h"
+#include "outputstage.h"
 #include "pagetemplates.h"
 #include "paths.h"
 
-#include <QFile>
-
-#include <cstdio>
+#include <algorithm>
+#include <iterator>
 
 namespace vantora::plugin {
 namespace {
 
-template <typename... Args> QByteArray format(const char *pattern, Args... args)
+// What replaces each character of a file name that could end the page's inline script string
+// or its script element.
+constexpr struct
 {
-    const int length = std::snprintf(nullptr, 0, pattern, args...);
-    QByteArray text(length, Qt::Uninitialized);
-    std::snprintf(text.data(), size_t(length) + 1, pattern, args...);
-    return text;
+    char16_t character;
+    const char *escape;
+} SCRIPT_ESCAPES[] = {
+    {u'\\', "\\\\"},
+    {u'"', "\\\""},
+    {u'<', "\\u003C"},
+    {u'>', "\\u003E"},
+    {u'\n', "\\n"},
+    {u'\r', "\\r"},
+    {u'\u2028', "\\u2028"},
+    {u'\u2029', "\\u2029"},
+};
+
+// A file name inside a double-quoted string of the inline script. Ordinary names pass unchanged.
+QString forScriptString(const QString &name)
+{
+    QString escaped;
+    for (const QChar c : name) {
+        const auto *end = std::end(SCRIPT_ESCAPES);
+        const auto *rule = std::find_if(std::begin(SCRIPT_ESCAPES), end,
+            [c](const auto &entry) { return entry.character == c.unicode(); });
+        if (rule == end)
+            escaped += c;
+        else
+            escaped += QLatin1String(rule->escape);
+    }
+    return escaped;
+}
+
+// A path inside a double-quoted attribute value. Ordinary names pass unchanged.
+QString forAttribute(const QString &path)
+{
+    return path.toHtmlEscaped();
 }
 
 } // namespace
@@ -24,26 +56,22 @@ QByteArray pageText(const PageInput &input)
 {
     const QString base = withoutExtension(fileNamePart(input.nameForBase));
     // Relative to the page, so the folder moves with it.
-    const QByteArray thumbnail = (base + QStringLiteral("_tiles") + nativeSeparator() + base
-        + QStringLiteral("_thumb.jpg"))
+    const QByteArray thumbnail = forAttribute(
+        base + QStringLiteral("_tiles") + nativeSeparator() + base + QStringLiteral("_thumb.jpg"))
                                      .toUtf8();
     const QByteArray title = input.title.toUtf8();
-    const QByteArray params = input.paramsFile.toUtf8();
+    const QByteArray params = forScriptString(input.paramsFile).toUtf8();
     const char *options = input.showWebGLWarning ? "" : NO_WEBGL_WARNING_OPTION;
     if (input.fitToPage)
-        return format(FULL_WINDOW_PAGE, thumbnail.constData(), title.constData(),
+        return cFormat(FULL_WINDOW_PAGE, thumbnail.constData(), title.constData(),
             params.constData(), options);
-    return format(FIXED_SIZE_PAGE, thumbnail.constData(), title.constData(), input.pageHeight,
+    return cFormat(FIXED_SIZE_PAGE, thumbnail.constData(), title.constData(), input.pageHeight,
         input.pageWidth, input.pageHeight, params.constData(), options);
 }
 
 bool writePage(const QString &pagePath, const PageInput &input)
 {
-    QFile page(pagePath);
-    if (!page.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
-        return false;
-    page.write(pageText(input));
-    return page.flush();
+    return stage::writeTextFile(pagePath, pageText(input));
 }
 
 } // namespace vantora::plugin

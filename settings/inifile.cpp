@@ -1,6 +1,7 @@
 #include "inifile.h"
 
 #include <QFile>
+#include <QTextCodec>
 
 #include <vector>
 
@@ -71,6 +72,44 @@ bool sameName(const QString &a, const QString &b)
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
+QString unquoted(const QString &value)
+{
+    if (value.size() >= 2 && value.front() == value.back()
+        && (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\'')))
+        return value.mid(1, value.size() - 2);
+    return value;
+}
+
+// All of the bytes as UTF-8: a further byte-order mark stays a character, and a NUL does not end
+// the text.
+QString fromUtf8(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+}
+
+// Valid UTF-8 holding at least one character beyond ASCII: text a UTF-8 editor saved.
+bool isUtf8BeyondAscii(const QByteArray &bytes)
+{
+    bool beyondAscii = false;
+    for (int i = 0; i < bytes.size();) {
+        const uchar lead = uchar(bytes[i]);
+        int length = lead < 0x80          ? 1
+            : lead >= 0xC2 && lead < 0xE0 ? 2
+            : lead >= 0xE0 && lead < 0xF0 ? 3
+            : lead >= 0xF0 && lead < 0xF5 ? 4
+                                          : 0;
+        if (length == 0 || i + length > bytes.size())
+            return false;
+        for (int k = 1; k < length; ++k)
+            if ((uchar(bytes[i + k]) & 0xC0) != 0x80)
+                return false;
+        beyondAscii = beyondAscii || length > 1;
+        i += length;
+    }
+    return beyondAscii;
+}
+
 QByteArray readBytes(const QString &path)
 {
     QFile file(path);
@@ -82,11 +121,22 @@ QByteArray readBytes(const QString &path)
 IniText decode(const QByteArray &bytes)
 {
     IniText ini;
-    if (bytes.size() >= 2 && uchar(bytes[0]) == 0xFF && uchar(bytes[1]) == 0xFE) {
-        ini.encoding = Encoding::Utf16Le;
+    const auto startsWith = [&](const char *mark) { return bytes.startsWith(mark); };
+    if (startsWith("\xFF\xFE") || startsWith("\xFE\xFF")) {
+        const bool little = uchar(bytes[0]) == 0xFF;
+        ini.encoding = little ? Encoding::Utf16Le : Encoding::Utf16Be;
         ini.text.reserve((bytes.size() - 2) / 2);
-        for (int i = 2; i + 1 < bytes.size(); i += 2)
-            ini.text.append(QChar(ushort(uchar(bytes[i]) | uchar(bytes[i + 1]) << 8)));
+        for (int i = 2; i + 1 < bytes.size(); i += 2) {
+            const ushort low = uchar(bytes[little ? i : i + 1]);
+            const ushort high = uchar(bytes[little ? i + 1 : i]);
+            ini.text.append(QChar(ushort(low | high << 8)));
+        }
+    } else if (startsWith("\xEF\xBB\xBF")) {
+        ini.encoding = Encoding::Utf8Bom;
+        ini.text = fromUtf8(bytes.mid(3));
+    } else if (isUtf8BeyondAscii(bytes)) {
+        ini.encoding = Encoding::Utf8;
+        ini.text = fromUtf8(bytes);
     } else {
         ini.text = QString::fromLatin1(bytes);
     }
@@ -95,14 +145,70 @@ IniText decode(const QByteArray &bytes)
 
 QByteArray encode(const IniText &ini)
 {
-    if (ini.encoding == Encoding::Ansi)
+    switch (ini.encoding) {
+    case Encoding::Ansi:
         return ini.text.toLatin1();
+    case Encoding::Utf8:
+        return ini.text.toUtf8();
+    case Encoding::Utf8Bom:
+        return "\xEF\xBB\xBF" + ini.text.toUtf8();
+    case Encoding::Utf16Le:
+    case Encoding::Utf16Be:
+        break;
+    }
+    const bool little = ini.encoding == Encoding::Utf16Le;
     QByteArray bytes;
     bytes.reserve(2 + 2 * ini.text.size());
-    bytes.append(char(0xFF)).append(char(0xFE));
-    for (const QChar c : ini.text)
-        bytes.append(char(c.unicode() & 0xFF)).append(char(c.unicode() >> 8));
+    bytes.append(little ? "\xFF\xFE" : "\xFE\xFF");
+    for (const QChar c : ini.text) {
+        const char low = char(c.unicode() & 0xFF), high = char(c.unicode() >> 8);
+        bytes.append(little ? low : high).append(little ? high : low);
+    }
     return bytes;
+}
+
+Index index(const QString &text)
+{
+    Index keys;
+    QString section;
+    bool inSection = false;
+    for (const Line &line : splitLines(text)) {
+        const Entry entry = parse(text, line);
+        if (entry.isSection) {
+            section = entry.name.toCaseFolded();
+            inSection = true;
+        } else if (inSection && entry.isKey) {
+            const QString name = section + QChar(0) + entry.name.toCaseFolded();
+            if (!keys.contains(name))
+                keys.insert(name, unquoted(entry.value));
+        }
+    }
+    return keys;
+}
+
+QString indexKey(const QString &section, const QString &key)
+{
+    return section.trimmed().toCaseFolded() + QChar(0) + key.trimmed().toCaseFolded();
+}
+
+int intValue(const QString &text)
+{
+    int i = 0;
+    while (i < text.size() && text.at(i).isSpace())
+        ++i;
+    bool negative = false;
+    if (i < text.size() && (text.at(i) == QLatin1Char('-') || text.at(i) == QLatin1Char('+')))
+        negative = text.at(i++) == QLatin1Char('-');
+    // Digits beyond 32 bits wrap around, as the system's conversion does.
+    quint32 result = 0;
+    for (; i < text.size() && text.at(i) >= QLatin1Char('0') && text.at(i) <= QLatin1Char('9'); ++i)
+        result = result * 10 + quint32(text.at(i).unicode() - '0');
+    return int(negative ? 0u - result : result);
+}
+
+QString cutValue(const QString &value)
+{
+    return value.left(MAX_VALUE_CHARS);
 }
 
 std::optional<QString> lookup(const QString &text, const QString &section, const QString &key)
@@ -113,11 +219,7 @@ std::optional<QString> lookup(const QString &text, const QString &section, const
         if (entry.isSection) {
             inSection = sameName(entry.name, section);
         } else if (inSection && entry.isKey && sameName(entry.name, key)) {
-            QString value = entry.value;
-            if (value.size() >= 2 && value.front() == value.back()
-                && (value.front() == QLatin1Char('"') || value.front() == QLatin1Char('\'')))
-                value = value.mid(1, value.size() - 2);
-            return value;
+            return unquoted(entry.value);
         }
     }
     return std::nullopt;
@@ -193,27 +295,13 @@ QString readString(
     const QString &path, const QString &section, const QString &key, const QString &defaultText)
 {
     const std::optional<QString> value = lookup(decode(readBytes(path)).text, section, key);
-    return (value ? *value : defaultText).left(MAX_VALUE_CHARS);
+    return cutValue(value ? *value : defaultText);
 }
 
 int readInt(const QString &path, const QString &section, const QString &key, int defaultValue)
 {
     const std::optional<QString> value = lookup(decode(readBytes(path)).text, section, key);
-    if (!value)
-        return defaultValue;
-    int i = 0;
-    while (i < value->size() && value->at(i).isSpace())
-        ++i;
-    bool negative = false;
-    if (i < value->size() && (value->at(i) == QLatin1Char('-') || value->at(i) == QLatin1Char('+')))
-        negative = value->at(i++) == QLatin1Char('-');
-    // Digits beyond 32 bits wrap around, as the system's conversion does.
-    quint32 result = 0;
-    for (;
-         i < value->size() && value->at(i) >= QLatin1Char('0') && value->at(i) <= QLatin1Char('9');
-         ++i)
-        result = result * 10 + quint32(value->at(i).unicode() - '0');
-    return int(negative ? 0u - result : result);
+    return value ? intValue(*value) : defaultValue;
 }
 
 bool writeString(

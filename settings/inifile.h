@@ -2,15 +2,18 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
 #include <optional>
 
 namespace vantora::settings::ini {
 
-// How a file's characters are stored: UTF-16LE after the byte-order mark FF FE, or one byte per
-// character in the 8-bit code page (Latin-1 stands in for the system's ANSI code page).
-enum class Encoding { Utf16Le, Ansi };
+// How a file's characters are stored: UTF-16LE after the byte-order mark FF FE, UTF-16BE after
+// FE FF, UTF-8 after EF BB BF or without a mark when the bytes are valid UTF-8 beyond ASCII, else
+// one byte per character in the 8-bit code page (Latin-1 stands in for the system's ANSI code
+// page).
+enum class Encoding { Utf16Le, Ansi, Utf16Be, Utf8, Utf8Bom };
 
 struct IniText
 {
@@ -28,6 +31,19 @@ QByteArray encode(const IniText &ini);
 // surrounding blanks), trimmed, and without one pair of matching enclosing quotes. Empty optional
 // when there is no such key.
 std::optional<QString> lookup(const QString &text, const QString &section, const QString &key);
+
+// Every key of `text`, for reading many keys of one file in one pass: the value a lookup() of the
+// same section and key would give, under indexKey(section, key).
+using Index = QHash<QString, QString>;
+Index index(const QString &text);
+QString indexKey(const QString &section, const QString &key);
+
+// The decimal value of a key's text as the system reads it (leading blanks and a sign allowed,
+// reading stops at the first non-digit, no digits give 0, digits beyond 32 bits wrap around).
+int intValue(const QString &text);
+
+// The text a key's value is read as: at most 65,535 characters.
+QString cutValue(const QString &value);
 
 // `text` with `key` of `section` set to `value`: the first matching key's line is rewritten in
 // place; a new key goes after the last non-blank line of the first matching section; a new

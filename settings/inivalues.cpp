@@ -1,7 +1,9 @@
 #include "inivalues.h"
 
 #include "inifile.h"
-#include "plugin/platform/platform.h"
+#include "plugin/cformat.h"
+#include "plugin/exportlog.h"
+#include "plugin/outputstage.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -25,7 +27,7 @@ double doubleFromIniText(const QString &text, double defaultValue)
 
 QString iniTextOfDouble(double value)
 {
-    return QString::asprintf("%.4f", value);
+    return plugin::cFormatText("%.4f", value);
 }
 
 QString codedIniText(const QString &text)
@@ -38,41 +40,76 @@ QString decodedIniText(const QString &coded)
     return QString::fromUtf8(QByteArray::fromBase64(coded.toLatin1()));
 }
 
-bool createUtf16IniFile(const QString &path)
+bool readIniBytes(const QString &path, QByteArray *bytes)
 {
+    bytes->clear();
     QFile file(path);
-    if (file.exists() && file.size() > 0)
+    if (path.isEmpty() || !file.exists())
         return true;
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write("\xFF\xFE", 2) == 2;
+    if (file.open(QIODevice::ReadOnly)) {
+        *bytes = file.readAll();
+        if (file.error() == QFileDevice::NoError)
+            return true;
+    }
+    qCWarning(lcVantoraExport, "cannot read %s", qUtf8Printable(path));
+    bytes->clear();
+    return false;
 }
 
-void convertIniFileToUtf16(const QString &path)
+IniEdit::IniEdit(const QByteArray &bytes)
+    : m_ini(ini::decode(bytes))
+    , m_bytes(bytes)
+{ }
+
+void IniEdit::set(const QString &section, const QString &key, const QString &value, bool stringKey)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    const QByteArray bytes = file.readAll();
-    file.close();
-    if (bytes.isEmpty() || bytes.startsWith("\xFF\xFE"))
-        return;
-    const ini::IniText converted {ini::firstLineConverted(bytes), ini::Encoding::Utf16Le};
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(ini::encode(converted));
+    // Only a file that is not UTF-16LE yet needs its bytes: after the conversion it stays UTF-16LE.
+    if (m_ini.encoding != ini::Encoding::Utf16Le || (m_ini.text.isEmpty() && !m_changed)) {
+        const QByteArray bytes = m_changed ? ini::encode(m_ini) : m_bytes;
+        if (bytes.isEmpty())
+            m_ini = ini::IniText {QString(), ini::Encoding::Utf16Le};
+        else if (stringKey && m_ini.encoding != ini::Encoding::Utf16Le)
+            m_ini = ini::IniText {ini::firstLineConverted(bytes), ini::Encoding::Utf16Le};
+    }
+    m_ini.text = ini::assign(m_ini.text, section, key, value);
+    m_changed = true;
 }
+
+QByteArray IniEdit::bytes() const
+{
+    return m_changed ? ini::encode(m_ini) : m_bytes;
+}
+
+bool IniEdit::write(const QString &path) const
+{
+    return plugin::writeFileAtomically(path, bytes());
+}
+
+namespace {
+
+bool writeIniKey(const QString &path, const QString &section, const QString &key,
+    const QString &value, bool stringKey)
+{
+    QByteArray bytes;
+    if (!readIniBytes(path, &bytes))
+        return false;
+    IniEdit edit(bytes);
+    edit.set(section, key, value, stringKey);
+    return edit.write(path);
+}
+
+} // namespace
 
 bool writeIniString(
     const QString &path, const QString &section, const QString &key, const QString &value)
 {
-    createUtf16IniFile(path);
-    convertIniFileToUtf16(path);
-    return platform::writeProfileString(path, section, key, value);
+    return writeIniKey(path, section, key, value, true);
 }
 
 bool writeIniNumber(
     const QString &path, const QString &section, const QString &key, const QString &value)
 {
-    createUtf16IniFile(path);
-    return platform::writeProfileString(path, section, key, value);
+    return writeIniKey(path, section, key, value, false);
 }
 
 } // namespace vantora::settings

@@ -1,6 +1,8 @@
 // One INI key at a time, in the encodings that presets and the host INI use.
 #pragma once
 
+#include "inifile.h"
+
 #include <QString>
 
 namespace vantora::settings {
@@ -16,16 +18,33 @@ QString iniTextOfDouble(double value);
 QString codedIniText(const QString &text);
 QString decodedIniText(const QString &coded);
 
-// A missing or empty file becomes a UTF-16LE file holding just its byte-order mark. The system's
-// profile writer creates new files in the 8-bit code page, and the first string key written
-// afterwards would convert such a file keeping only its first line: created this way first, a file
-// written from scratch keeps every key.
-bool createUtf16IniFile(const QString &path);
+// Reads an INI file's bytes whole; a missing file reads as empty. False (and a logged line) when
+// the file exists but cannot be read.
+bool readIniBytes(const QString &path, QByteArray *bytes);
 
-// Brings a file that is not UTF-16LE into UTF-16LE the way the product always has: only its first
-// line survives, read in text mode, each byte sign-extended into one UTF-16 unit. Files already
-// UTF-16LE, missing or empty files are left alone.
-void convertIniFileToUtf16(const QString &path);
+// An INI file changed key by key in memory, exactly as the product's key-by-key writes would
+// change it on the disk, then written once.
+//
+// Before each key: a missing or empty file becomes an empty UTF-16LE one (the system's profile
+// writer creates new files in the 8-bit code page, and the first string key written afterwards
+// would convert such a file keeping only its first line). Before a string key, a file that is not
+// UTF-16LE is brought into UTF-16LE the way the product always has: only its first line survives,
+// read in text mode, each byte sign-extended into one UTF-16 unit.
+class IniEdit
+{
+public:
+    explicit IniEdit(const QByteArray &bytes);
+    void set(const QString &section, const QString &key, const QString &value, bool stringKey);
+    // The file's bytes as they now stand.
+    QByteArray bytes() const;
+    // Replaces the file in one step; false (and a logged line) when it cannot be written.
+    bool write(const QString &path) const;
+
+private:
+    ini::IniText m_ini;
+    QByteArray m_bytes; // the file as read, until the first change
+    bool m_changed = false;
+};
 
 // Writes a string key (plain or coded): the file is created or converted to UTF-16LE first.
 bool writeIniString(

@@ -1,7 +1,7 @@
 #include "presetkeys.h"
 
 #include "inivalues.h"
-#include "plugin/platform/platform.h"
+#include "plugin/outputstage.h"
 
 #include <variant>
 
@@ -106,11 +106,33 @@ QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
-void readKey(const QString &path, const PresetKey &k, PresetValues &values)
+// The keys of one preset file, read in one pass.
+class PresetFile
+{
+public:
+    explicit PresetFile(const ini::IniText &ini)
+        : m_keys(ini::index(ini.text))
+    { }
+    QString text(const QString &section, const QString &key, const QString &defaultText) const
+    {
+        const auto found = m_keys.constFind(ini::indexKey(section, key));
+        return ini::cutValue(found == m_keys.cend() ? defaultText : *found);
+    }
+    int number(const QString &section, const QString &key, int defaultValue) const
+    {
+        const auto found = m_keys.constFind(ini::indexKey(section, key));
+        return found == m_keys.cend() ? defaultValue : ini::intValue(*found);
+    }
+
+private:
+    ini::Index m_keys;
+};
+
+void readKey(const PresetFile &file, const PresetKey &k, PresetValues &values)
 {
     const QString section = text(k.section), key = text(k.key);
     const auto readText = [&](const QString &name, const QString &defaultText) {
-        return platform::profileString(path, section, name, defaultText);
+        return file.text(section, name, defaultText);
     };
     switch (k.kind) {
     case Kind::Bool: {
@@ -122,7 +144,7 @@ void readKey(const QString &path, const PresetKey &k, PresetValues &values)
         break;
     }
     case Kind::Int: {
-        int value = platform::profileInt(path, section, key, text(k.defaultText).toInt());
+        int value = file.number(section, key, text(k.defaultText).toInt());
         if (k.clampFrom > 0 && value >= k.clampFrom)
             value = k.clampTo;
         values.*std::get<int P::*>(k.field) = value;
@@ -130,7 +152,7 @@ void readKey(const QString &path, const PresetKey &k, PresetValues &values)
     }
     case Kind::Colour:
         values.*std::get<Colour P::*>(k.field)
-            = Colour(platform::profileInt(path, section, key, text(k.defaultText).toInt()));
+            = Colour(file.number(section, key, text(k.defaultText).toInt()));
         break;
     case Kind::Double:
         values.*std::get<double P::*>(k.field)
@@ -150,32 +172,28 @@ void readKey(const QString &path, const PresetKey &k, PresetValues &values)
     }
 }
 
-bool writeKey(const QString &path, const PresetKey &k, const PresetValues &values)
+void writeKey(IniEdit &ini, const PresetKey &k, const PresetValues &values)
 {
     const QString section = text(k.section), key = text(k.key);
+    const auto set
+        = [&](const QString &value, bool stringKey) { ini.set(section, key, value, stringKey); };
     switch (k.kind) {
     case Kind::Bool:
-        return writeIniNumber(
-            path, section, key, values.*std::get<bool P::*>(k.field) ? text("1") : text("0"));
+        return set(values.*std::get<bool P::*>(k.field) ? text("1") : text("0"), false);
     case Kind::Int:
-        return writeIniNumber(
-            path, section, key, QString::number(values.*std::get<int P::*>(k.field)));
+        return set(QString::number(values.*std::get<int P::*>(k.field)), false);
     case Kind::Colour:
-        return writeIniNumber(
-            path, section, key, QString::number(int(values.*std::get<Colour P::*>(k.field))));
+        return set(QString::number(int(values.*std::get<Colour P::*>(k.field))), false);
     case Kind::Double:
-        return writeIniNumber(
-            path, section, key, iniTextOfDouble(values.*std::get<double P::*>(k.field)));
+        return set(iniTextOfDouble(values.*std::get<double P::*>(k.field)), false);
     case Kind::Plain:
     case Kind::Coded: {
         const QString &value = values.*std::get<QString P::*>(k.field);
         if (k.onlyWhenSet && value.isEmpty())
-            return true;
-        return writeIniString(
-            path, section, key, k.kind == Kind::Coded ? codedIniText(value) : value);
+            return;
+        return set(k.kind == Kind::Coded ? codedIniText(value) : value, true);
     }
     }
-    return false;
 }
 
 } // namespace
@@ -197,20 +215,39 @@ bool PresetValues::operator==(const PresetValues &other) const
     return true;
 }
 
-PresetValues readPresetValues(const QString &path)
+PresetValues presetValuesFromBytes(const QByteArray &bytes)
 {
+    const PresetFile file(ini::decode(bytes));
     PresetValues values;
     for (const PresetKey &k : PRESET_KEYS)
-        readKey(path, k, values);
+        readKey(file, k, values);
     return values;
+}
+
+PresetValues readPresetValues(const QString &path, bool *readable)
+{
+    QByteArray bytes;
+    const bool read = readIniBytes(path, &bytes);
+    if (readable)
+        *readable = read;
+    return presetValuesFromBytes(bytes);
+}
+
+QByteArray presetFileBytes(const QByteArray &existing, const PresetValues &values)
+{
+    IniEdit ini(existing);
+    for (const PresetKey &k : PRESET_KEYS)
+        writeKey(ini, k, values);
+    return ini.bytes();
 }
 
 bool writePresetValues(const QString &path, const PresetValues &values)
 {
-    bool written = true;
-    for (const PresetKey &k : PRESET_KEYS)
-        written = writeKey(path, k, values) && written;
-    return written;
+    // The whole file is built first and written once: a preset is the old one or the new one,
+    // never a mixture, whenever the writing stops.
+    QByteArray bytes;
+    return readIniBytes(path, &bytes)
+        && plugin::writeFileAtomically(path, presetFileBytes(bytes, values));
 }
 
 } // namespace vantora::settings

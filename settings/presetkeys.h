@@ -96,11 +96,17 @@ using PresetField = std::variant<bool PresetValues::*, int PresetValues::*, doub
 void forEachPresetField(const std::function<void(const char *, PresetField)> &visit);
 
 // Reads every key of the INI file at `path` (missing keys take their default texts, out-of-range
-// numbers are clamped, legacy keys are honoured). A missing file gives the defaults.
-PresetValues readPresetValues(const QString &path);
+// numbers are clamped, legacy keys are honoured), reading the file once. A missing file gives the
+// defaults; a file that exists but cannot be read gives them too, with *readable set to false.
+PresetValues readPresetValues(const QString &path, bool *readable = nullptr);
+
+// The same for a preset file's bytes.
+PresetValues presetValuesFromBytes(const QByteArray &bytes);
+// The bytes of the preset file `existing` once every key is written (the file is not touched).
+QByteArray presetFileBytes(const QByteArray &existing, const PresetValues &values);
 
 // Writes every key in the file's order; empty texts of the keys that are written only when set are
-// left out. False when a key could not be written.
+// left out. The file is replaced in one write. False when it could not be read or written.
 bool writePresetValues(const QString &path, const PresetValues &values);
 
 } // namespace vantora::settings

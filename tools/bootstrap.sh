@@ -10,7 +10,10 @@ PACKAGES=(
   clang libclang-rt-14-dev
   libgl1-mesa-dev fonts-dejavu-core
   libvips-dev libvips-tools
+  chromium
 )
+# npm builds the viewer script; a Node.js that brings its own npm needs no second one.
+command -v npm >/dev/null 2>&1 || PACKAGES+=(npm)
 
 missing=()
 for p in "${PACKAGES[@]}"; do

@@ -3,6 +3,7 @@
 #include "actions.h"
 #include "design.h"
 #include "eventtexts.h"
+#include "plugin/cformat.h"
 
 namespace vantora::params {
 namespace {
@@ -54,7 +55,7 @@ void buildMainEvents(QJsonObject &controlsRoot, QJsonArray &actions, const Event
 
     QString oninit = assembled(INIT_HEAD, gyroInUse, INIT_GYRO, "");
     if (flags.littlePlanetIntro)
-        oninit += QString::asprintf(INIT_LITTLE_PLANET_FORMAT, view.pan, view.tilt, view.hfov);
+        oninit += plugin::cFormatText(INIT_LITTLE_PLANET_FORMAT, view.pan, view.tilt, view.hfov);
     oninit += QLatin1String(INIT_TAIL);
 
     QJsonObject events;

@@ -1,9 +1,9 @@
 #include "galleryfile.h"
 
 #include "galleryentry.h"
-#include "tourfolder.h"
-
+#include "plugin/outputstage.h"
 #include "plugin/paths.h"
+#include "tourfolder.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -80,9 +80,7 @@ QJsonObject writeGalleryFile(const QString &outputFolder, const QString &gallery
     const QByteArray text = "VantoraViewerParams = {\n\"vantoraViewer\":\n"
         + QJsonDocument(QJsonObject {{QStringLiteral("gallery"), gallery}}).toJson() + "\n}";
     // Written byte for byte: the layout's line feeds stay line feeds on every platform.
-    QFile file(plugin::toNativeSeparators(outputFolder + galleryFileName));
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(text);
+    plugin::stage::writeFile(plugin::toNativeSeparators(outputFolder + galleryFileName), text);
     return include;
 }
 

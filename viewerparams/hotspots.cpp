@@ -1,9 +1,10 @@
 #include "hotspots.h"
 
 #include "infobox.h"
+#include "plugin/cformat.h"
 #include "plugin/hostaccess.h"
+#include "plugin/outputstage.h"
 #include "plugin/paths.h"
-#include "plugin/platform/platform.h"
 #include "scripttexts.h"
 
 #include <QJsonObject>
@@ -84,10 +85,10 @@ QString exportBitmap(
         return target;
     }
     const QString targetPath = outputFolder + fileName;
-    // A bitmap from a write-protected source would otherwise stay protected in the output and
-    // block the next export into the same folder.
-    if (platform::copyFileReplacing(plugin::toNativeSeparators(bitmapPath), targetPath))
-        platform::clearReadOnly(targetPath);
+    // A bitmap named like one of the export's own files must not replace it. The copy is a new
+    // file, so a write-protected source does not leave it protected for the next export.
+    if (!plugin::stage::isReserved(targetPath))
+        plugin::stage::copyFile(plugin::toNativeSeparators(bitmapPath), targetPath);
     return fileName;
 }
 
@@ -106,13 +107,13 @@ void addBitmapMembers(QJsonObject &object, const HotspotInput &input, const Host
             hotspot.kind == ANIMATED_BITMAP ? QStringLiteral("1.0") : QStringLiteral("1.0;1.1"));
     }
     object.insert(QStringLiteral("opacity"),
-        QString::asprintf("%.2f;%.2f", (100 - hotspot.transparency) / 100.0,
+        plugin::cFormatText("%.2f;%.2f", (100 - hotspot.transparency) / 100.0,
             (100 - hotspot.hoverTransparency) / 100.0));
     object.insert(QStringLiteral("bitmaptype"),
         hotspot.embedded ? QStringLiteral("embedded") : QStringLiteral("floating"));
     const PanTilt position = positionOf(input, hotspot);
     object.insert(
-        QStringLiteral("position"), QString::asprintf("%.4f,%.4f", position.pan, position.tilt));
+        QStringLiteral("position"), plugin::cFormatText("%.4f,%.4f", position.pan, position.tilt));
 }
 
 void addLinkMembers(QJsonObject &object, const HostHotspot &hotspot)

@@ -1,9 +1,9 @@
 #include "memberwriter.h"
 
+#include "plugin/outputstage.h"
 #include "plugin/paths.h"
 
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QTextStream>
 
@@ -66,18 +66,16 @@ bool writeViewerParamsFile(const QString &path, const QJsonObject &root, Layout 
 {
     const QString folder = plugin::directoryPart(plugin::toNativeSeparators(path));
     QDir().mkpath(folder);
-    QFile file(plugin::toNativeSeparators(path));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
-        return false;
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    stream << "VantoraViewerParams = {\n\"vantoraViewer\": {\n";
-    const QStringList keys = layout == Layout::ParameterFile ? rootKeyOrder(root) : root.keys();
-    writeMembers(stream, keys, root, false, layout);
-    stream << "}\n}";
-    // A full disk shows only here; the export must not report a truncated file as written.
-    stream.flush();
-    return stream.status() == QTextStream::Ok && file.flush();
+    QByteArray text;
+    {
+        QTextStream stream(&text, QIODevice::WriteOnly);
+        stream.setCodec("UTF-8");
+        stream << "VantoraViewerParams = {\n\"vantoraViewer\": {\n";
+        const QStringList keys = layout == Layout::ParameterFile ? rootKeyOrder(root) : root.keys();
+        writeMembers(stream, keys, root, false, layout);
+        stream << "}\n}";
+    }
+    return plugin::stage::writeTextFile(plugin::toNativeSeparators(path), text);
 }
 
 } // namespace vantora::params

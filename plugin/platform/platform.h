@@ -1,6 +1,7 @@
 // The few operating-system calls of the library, behind one neutral interface.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
@@ -37,12 +38,24 @@ struct ListedFile
 // folder cannot be listed.
 std::vector<ListedFile> listPlainFiles(const QString &folder, bool (*wanted)(const QString &name));
 
-// Copies `from` to `to`, replacing an existing file. False when the copy failed; copying a file
-// onto itself succeeds and leaves it alone.
-bool copyFileReplacing(const QString &from, const QString &to);
+// Writes `bytes` into a new file at `path` and flushes it to the disk. Whatever had that name
+// before (a file or a link) is removed first; a link is never followed. On failure the partial
+// file is removed and false returned.
+bool writeNewFile(const QString &path, const QByteArray &bytes);
 
-// Removes the read-only attribute of `path` (a copy of a read-only original stays writable).
-void clearReadOnly(const QString &path);
+// Moves the file `from` to `to` in one step, replacing whatever `to` is (a file or a link itself,
+// never what a link points to). With a `backup` name the replaced file stays under that name.
+// False when nothing was moved; `to` is then as it was.
+bool replaceFile(const QString &from, const QString &to, const QString &backup = QString());
+
+// Removes a file or a link (never what it points to). True when nothing is left at `path`.
+bool removeFile(const QString &path);
+
+// Whether `path` itself is a symbolic link (or another reparse point).
+bool isLink(const QString &path);
+
+// The bytes of a text as a text-mode file holds them: line feeds become the platform's line end.
+QByteArray withPlatformLineEnds(const QByteArray &text);
 
 // Opens `path` with the system's default handler for its type, in a normal window.
 void openWithDefaultHandler(const QString &path);

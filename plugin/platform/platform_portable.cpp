@@ -8,9 +8,11 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace vantora::platform {
 namespace {
@@ -20,33 +22,93 @@ std::int64_t nanoseconds(const timespec &time)
     return std::int64_t(time.tv_sec) * 1000000000 + time.tv_nsec;
 }
 
-} // namespace
-
-bool copyFileReplacing(const QString &from, const QString &to)
+QByteArray native(const QString &path)
 {
-    const QFileInfo source(from);
-    if (!source.isFile() || QFileInfo(to).isDir())
-        return false;
-    // Removing the target first would destroy the source when both name the same file.
-    if (QFileInfo(to).exists() && source.canonicalFilePath() == QFileInfo(to).canonicalFilePath())
-        return true;
-    // Copy beside the target first, so a failed copy never leaves the old file half-replaced.
-    const QString partial = to + QStringLiteral(".vantora-part");
-    QFile::remove(partial);
-    if (!QFile::copy(from, partial))
-        return false;
-    QFile::remove(to);
-    if (!QFile::rename(partial, to)) {
-        QFile::remove(partial);
-        return false;
+    return QFile::encodeName(path);
+}
+
+bool writeAll(int fd, const QByteArray &bytes)
+{
+    const char *data = bytes.constData();
+    qint64 left = bytes.size();
+    while (left > 0) {
+        const ssize_t written = ::write(fd, data, size_t(left));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        data += written;
+        left -= written;
     }
     return true;
 }
 
-void clearReadOnly(const QString &path)
+bool exists(const QByteArray &path)
 {
-    QFile file(path);
-    file.setPermissions(file.permissions() | QFileDevice::WriteOwner | QFileDevice::WriteUser);
+    struct stat info;
+    return ::lstat(path.constData(), &info) == 0;
+}
+
+} // namespace
+
+bool writeNewFile(const QString &path, const QByteArray &bytes)
+{
+    const QByteArray name = native(path);
+    if (!removeFile(path))
+        return false;
+    // O_EXCL with O_NOFOLLOW: a link planted between the removal and here fails the open.
+    const int fd
+        = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
+    if (fd < 0)
+        return false;
+    bool ok = writeAll(fd, bytes) && ::fsync(fd) == 0;
+    ok = ::close(fd) == 0 && ok;
+    if (!ok)
+        ::unlink(name.constData());
+    return ok;
+}
+
+bool replaceFile(const QString &from, const QString &to, const QString &backup)
+{
+    const QByteArray source = native(from), target = native(to);
+    struct stat info;
+    if (::lstat(target.constData(), &info) == 0 && S_ISDIR(info.st_mode))
+        return false; // a folder is never replaced by a file
+    bool movedAside = false;
+    if (!backup.isEmpty() && exists(target)) {
+        const QByteArray kept = native(backup);
+        if (!removeFile(backup))
+            return false;
+        // A second name for the old file keeps `to` in place until the rename replaces it; where
+        // the file system has no hard links the old file moves aside instead.
+        if (::link(target.constData(), kept.constData()) != 0) {
+            if (::rename(target.constData(), kept.constData()) != 0)
+                return false;
+            movedAside = true;
+        }
+    }
+    if (::rename(source.constData(), target.constData()) == 0)
+        return true;
+    if (movedAside)
+        ::rename(native(backup).constData(), target.constData());
+    return false;
+}
+
+bool removeFile(const QString &path)
+{
+    const QByteArray name = native(path);
+    return ::unlink(name.constData()) == 0 || errno == ENOENT;
+}
+
+bool isLink(const QString &path)
+{
+    struct stat info;
+    return ::lstat(native(path).constData(), &info) == 0 && S_ISLNK(info.st_mode);
+}
+
+QByteArray withPlatformLineEnds(const QByteArray &text)
+{
+    return text;
 }
 
 void openWithDefaultHandler(const QString &path)

@@ -24,16 +24,78 @@ std::int64_t nanoseconds(const LARGE_INTEGER &time)
 
 } // namespace
 
-bool copyFileReplacing(const QString &from, const QString &to)
+bool writeNewFile(const QString &path, const QByteArray &bytes)
 {
-    return CopyFileW(wide(from), wide(to), FALSE) != 0;
+    if (!removeFile(path))
+        return false;
+    // CREATE_NEW fails on anything that appeared in between, a reparse point included.
+    const HANDLE file = CreateFileW(wide(path), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+        FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    bool ok = true;
+    const char *data = bytes.constData();
+    qint64 left = bytes.size();
+    while (ok && left > 0) {
+        const DWORD chunk = DWORD(qMin<qint64>(left, 1 << 30));
+        DWORD written = 0;
+        ok = WriteFile(file, data, chunk, &written, nullptr) != 0 && written == chunk;
+        data += written;
+        left -= written;
+    }
+    ok = ok && FlushFileBuffers(file) != 0;
+    ok = CloseHandle(file) != 0 && ok;
+    if (!ok)
+        DeleteFileW(wide(path));
+    return ok;
 }
 
-void clearReadOnly(const QString &path)
+bool replaceFile(const QString &from, const QString &to, const QString &backup)
+{
+    const DWORD target = GetFileAttributesW(wide(to));
+    const bool plainFile = target != INVALID_FILE_ATTRIBUTES
+        && !(target & (FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY));
+    if (!backup.isEmpty() && plainFile) {
+        removeFile(backup);
+        // Keeps the old file under the backup name and puts the new one in its place.
+        if (ReplaceFileW(wide(to), wide(from), wide(backup), REPLACEFILE_IGNORE_MERGE_ERRORS,
+                nullptr, nullptr)
+            != 0)
+            return true;
+        // ReplaceFileW can fail after moving the old file aside: then put it back.
+        if (GetFileAttributesW(wide(to)) == INVALID_FILE_ATTRIBUTES)
+            MoveFileExW(wide(backup), wide(to), MOVEFILE_WRITE_THROUGH);
+        return false;
+    }
+    // MoveFileExW replaces a link itself, not what it points to.
+    return MoveFileExW(wide(from), wide(to), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)
+        != 0;
+}
+
+bool removeFile(const QString &path)
+{
+    if (DeleteFileW(wide(path)))
+        return true;
+    const DWORD error = GetLastError();
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
+        return true;
+    // A read-only file is ours to replace all the same.
+    const DWORD attributes = GetFileAttributesW(wide(path));
+    return attributes != INVALID_FILE_ATTRIBUTES
+        && SetFileAttributesW(wide(path), attributes & ~DWORD(FILE_ATTRIBUTE_READONLY))
+        && DeleteFileW(wide(path));
+}
+
+bool isLink(const QString &path)
 {
     const DWORD attributes = GetFileAttributesW(wide(path));
-    if (attributes != INVALID_FILE_ATTRIBUTES)
-        SetFileAttributesW(wide(path), attributes & ~DWORD(FILE_ATTRIBUTE_READONLY));
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+}
+
+QByteArray withPlatformLineEnds(const QByteArray &text)
+{
+    QByteArray lines = text;
+    return lines.replace("\n", "\r\n");
 }
 
 void openWithDefaultHandler(const QString &path)

@@ -177,6 +177,45 @@ private slots:
         QVERIFY(readFileBytes(path).startsWith(utf16File("[Toolbar]\n[Applet]\n")));
     }
 
+    // Presets saved by an editor rather than the system: UTF-8 with or without its mark, UTF-16
+    // big-endian. Read as what they are, umlauts included.
+    void otherEncodings_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QString text
+            = QStringLiteral("[Applet]\r\nTitle=Gr\u00fcn \u00fcber Z\u00fcrich\r\nMapZoom=7\r\n");
+        QByteArray utf16be("\xFE\xFF", 2);
+        for (const QChar c : text)
+            utf16be.append(char(c.unicode() >> 8)).append(char(c.unicode() & 0xFF));
+        QTest::addRow("UTF-8 with mark") << "\xEF\xBB\xBF" + text.toUtf8();
+        QTest::addRow("UTF-8 without mark") << text.toUtf8();
+        QTest::addRow("UTF-16BE") << utf16be;
+    }
+    void otherEncodings()
+    {
+        QFETCH(QByteArray, bytes);
+        const QString path = m_settings + "editor.ini";
+        QVERIFY(writeFile(path, bytes));
+        bool readable = false;
+        const PresetValues values = readPresetValues(path, &readable);
+        QVERIFY(readable);
+        QCOMPARE(values.Title64, QStringLiteral("Gr\u00fcn \u00fcber Z\u00fcrich"));
+        QCOMPARE(values.MapZoom, 7);
+    }
+
+    // A preset that is there but cannot be read is not silently taken for the defaults.
+    void unreadablePresetIsReported()
+    {
+        QVERIFY(QDir().mkpath(m_settings + "folder.ini"));
+        bool readable = true;
+        readPresetValues(m_settings + "folder.ini", &readable);
+        QVERIFY(!readable);
+        readPresetValues(m_settings + "missing.ini", &readable);
+        QVERIFY(readable); // a missing preset is simply the defaults
+        QVERIFY(!writePresetValues(m_settings + "folder.ini", PresetValues()));
+        QVERIFY(QFileInfo(m_settings + "folder.ini").isDir());
+    }
+
     void namesAndFiles()
     {
         PresetValues values = readPresetFile(m_settings, QString());

@@ -194,6 +194,17 @@ private slots:
         QCOMPARE(hotspots[0]["position"].toString(), "270.0000,11.3099");
     }
 
+    // On the horizon of a symmetric cylinder the tilt is a negative zero, written as printf
+    // writes it.
+    void negativeZeroTilt()
+    {
+        Export run;
+        run.host.linearVertical = 0;
+        run.extent(0.0, 360.0, -45.0, 45.0);
+        run.add(0, u":/shape.png", 0.25, 0.5);
+        QCOMPARE(hotspotsOf(run)[0]["position"].toString(), "90.0000,-0.0000");
+    }
+
     // Null entries do not count; lens flares, other kinds and dropped hotspots do.
     void runningNumbers()
     {

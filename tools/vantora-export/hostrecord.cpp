@@ -110,8 +110,9 @@ std::uint32_t HostRecord::writeTiles(HostContext *host, HostTileRequest *request
     job.progress = self.m_job.progress;
     QElapsedTimer clock;
     clock.start();
-    const TileResult result = writeTilePyramid(job);
+    TileResult result = writeTilePyramid(job);
     outcome.elapsedMs = clock.elapsed();
+    outcome.swap = result.swap;
     if (!result.ok) {
         outcome.error = result.error;
         return 0;

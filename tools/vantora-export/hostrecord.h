@@ -6,6 +6,7 @@
 #include "options.h"
 #include "pageframe.h"
 #include "sourceimage.h"
+#include "tileswap.h"
 
 #include <vantora/host.h>
 
@@ -44,6 +45,7 @@ struct TileOutcome
     bool ok = false;
     QString error;
     qint64 elapsedMs = 0; // wall time spent cutting tiles
+    TileSwap swap;        // the levels moved in, until the export's outcome is known
 };
 
 class HostRecord
@@ -55,6 +57,9 @@ public:
 
     HostContext *context() { return &m_record.context; }
     const TileOutcome &tiles() const { return m_tiles; }
+    // Once the library has answered: a successful export keeps the new tiles, a failed one puts
+    // the earlier export's tiles back.
+    void finishTiles(bool exported) { exported ? m_tiles.swap.keep() : m_tiles.swap.restore(); }
 
 private:
     // The library hands back only the HostContext pointer; the record starts with it, so the

@@ -35,8 +35,13 @@ public:
 
     void fail(const QString &text)
     {
-        if (m_error.isEmpty())
-            m_error = m_where + text;
+        if (!m_error.isEmpty())
+            return;
+        // Names from the file may hold line breaks; the error stays one line.
+        m_error = m_where + text;
+        for (QChar &c : m_error)
+            if (c.unicode() < 0x20)
+                c = QLatin1Char('?');
     }
 
     QString text(const char *key, bool required = false)
@@ -122,8 +127,14 @@ bool readHotspotFile(const QString &path, QVector<HotspotSpec> *hotspots, QStrin
         *error = QStringLiteral("cannot read %1").arg(path);
         return false;
     }
+    return parseHotspotFile(file.readAll(), path, hotspots, error);
+}
+
+bool parseHotspotFile(
+    const QByteArray &bytes, const QString &path, QVector<HotspotSpec> *hotspots, QString *error)
+{
     QJsonParseError parseError {};
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &parseError);
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
         *error = QStringLiteral("%1: %2 at byte %3")
                      .arg(path, parseError.errorString())

@@ -33,6 +33,9 @@ struct HotspotSpec
 
 // Reads and checks the whole file. False, with one line in `error`, on the first problem.
 bool readHotspotFile(const QString &path, QVector<HotspotSpec> *hotspots, QString *error);
+// The same for the file's bytes; `path` names the file in messages and anchors relative bitmaps.
+bool parseHotspotFile(
+    const QByteArray &bytes, const QString &path, QVector<HotspotSpec> *hotspots, QString *error);
 
 // The host's hotspot list for one page: the records and the strings they point to.
 class PageHotspots

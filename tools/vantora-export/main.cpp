@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <QWidget>
@@ -50,6 +51,11 @@ void filterQtMessages(QtMsgType type, const QMessageLogContext &context, const Q
 {
     if (type == QtWarningMsg && message.startsWith(QLatin1String("QStandardPaths:")))
         return;
+    // The library names each file it could not write on its logging category.
+    if (qstrcmp(context.category, "vantora.export") == 0) {
+        QTextStream(stderr) << "vantora-export: " << message << '\n';
+        return;
+    }
     if (standardHandler)
         standardHandler(type, context, message);
     else
@@ -75,6 +81,7 @@ int main(int argc, char *argv[])
     if (!dialogs && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     standardHandler = qInstallMessageHandler(filterQtMessages);
+    QLoggingCategory::setFilterRules(QStringLiteral("vantora.export.warning=true"));
     const std::unique_ptr<QGuiApplication> app = dialogs
         ? std::make_unique<QApplication>(argc, argv)
         : std::make_unique<QGuiApplication>(argc, argv);
@@ -158,6 +165,8 @@ int main(int argc, char *argv[])
         exportMs += clock.elapsed();
         tilesMs += host.tiles().elapsedMs;
         progress.finish();
+        const bool exported = outcome.result == VANTORA_WRITE_DONE && !outcome.pagePath.isEmpty();
+        host.finishTiles(exported);
         // Cancelled in the dialog: the library wrote nothing, and neither did the tool.
         if (options.interactive && outcome.result == VANTORA_WRITE_DONE
             && outcome.pagePath.isEmpty()) {
@@ -165,7 +174,7 @@ int main(int argc, char *argv[])
             QTextStream(stderr) << "vantora-export: export cancelled\n";
             return 0;
         }
-        if (outcome.result != VANTORA_WRITE_DONE || outcome.pagePath.isEmpty()) {
+        if (!exported) {
             // A failed export leaves nothing of this run behind.
             removeNewFiles(folder, before);
             removeCreatedFolders(plan);

@@ -104,11 +104,15 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
     const QCommandLineOption library(QStringLiteral("library"),
         QStringLiteral("The export library to load (default: the build's)."),
         QStringLiteral("FILE"), defaultLibrary);
+    const QCommandLineOption maxPixels(QStringLiteral("max-pixels"),
+        QStringLiteral("Largest source picture accepted, in pixels (1000000000); its header "
+                       "is checked before any tile is cut."),
+        QStringLiteral("COUNT"), QStringLiteral("1000000000"));
     const QCommandLineOption interactive(QStringLiteral("interactive"),
         QStringLiteral("Shows the library's export dialog on the desktop, as a panorama "
                        "application does: OUT.html is only proposed there. One image at most."));
-    parser.addOptions({help, output, flat, hextent, vextent, quality, pageSize, fit, hotspots,
-        location, settingsFile, title, install, library, interactive});
+    parser.addOptions({help, output, flat, hextent, vextent, quality, maxPixels, pageSize, fit,
+        hotspots, location, settingsFile, title, install, library, interactive});
 
     auto error = [message](const QString &text) {
         *message = text;
@@ -156,7 +160,17 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
     if (options->fitToPage && parser.isSet(pageSize))
         return error(QStringLiteral("--fit-to-page and --page-size exclude each other"));
 
-    options->hotspotFile = parser.value(hotspots);
+    bool countOk = false;
+    options->maxPixels = parser.value(maxPixels).toLongLong(&countOk);
+    if (!countOk || options->maxPixels < 1)
+        return error(QStringLiteral("--max-pixels must be a positive number"));
+    if (parser.isSet(hotspots)) {
+        // Only a regular file: a pipe or a device would block the tool or never end.
+        const QFileInfo file(parser.value(hotspots));
+        if (!file.isFile() || !file.isReadable())
+            return error(QStringLiteral("--hotspots: cannot read %1").arg(file.filePath()));
+        options->hotspotFile = file.absoluteFilePath();
+    }
     if (parser.isSet(location)) {
         Location where;
         if (!parseLocation(parser.value(location), &where))

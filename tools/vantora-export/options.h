@@ -24,6 +24,7 @@ struct CliOptions
     std::optional<double> hextent; // degrees; unset: from the aspect ratio
     std::optional<double> vextent;
     int quality = 80;
+    qint64 maxPixels = 1000000000; // a source picture with more pixels is refused before tiling
     int pageWidth = 800;
     int pageHeight = 600;
     bool fitToPage = false;

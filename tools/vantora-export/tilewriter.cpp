@@ -2,15 +2,18 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <vips/vips8>
+
+#include <algorithm>
 
 namespace vantora::cli {
 namespace {
 
 constexpr int THUMBNAIL_SIZE = 256;
-// The library cuts the pyramid under this name and the levels are then moved up one folder,
-// so that the layout is ours and not the library's.
+// The image library cuts the pyramid under this name in the staging folder; the levels then move
+// into the image-data folder, so that the layout is ours and not the library's.
 constexpr char STAGING_NAME[] = "pyramid";
 
 QByteArray fileName(const QString &path)
@@ -85,32 +88,39 @@ private:
     gulong m_handler = 0;
 };
 
-bool moveLevels(const QString &tilesFolder, int levelCount, QString *error)
+// Whether the staged pyramid holds exactly the tiles of `levels`, each a non-empty file: nothing
+// missing, and nothing else (no half-written or temporary file) that would be published with it.
+bool isComplete(const QString &stagedLevels, const QVector<PyramidLevel> &levels, QString *error)
 {
-    const QString staged = tilesFolder + QLatin1Char('/') + QLatin1String(STAGING_NAME);
-    QDir folder(tilesFolder);
-    // Levels of an earlier, larger export into the same folder would confuse nobody but waste
-    // space; they go with the ones replaced.
-    const QStringList previous = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString &name : previous) {
-        bool isLevel = false;
-        name.toInt(&isLevel);
-        if (isLevel && !QDir(folder.filePath(name)).removeRecursively()) {
-            *error = QStringLiteral("cannot replace %1").arg(folder.filePath(name));
+    const QDir staged(stagedLevels);
+    // Only the level folders move; the image library's own notes beside them stay behind.
+    QStringList found = staged.entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System);
+    found.erase(std::remove_if(found.begin(), found.end(),
+                    [](const QString &name) { return name.isEmpty() || !name.at(0).isDigit(); }),
+        found.end());
+    if (found.size() != levels.size()) {
+        *error = QStringLiteral("the tile writer made %1 levels instead of %2")
+                     .arg(found.size())
+                     .arg(levels.size());
+        return false;
+    }
+    for (int level = 0; level < levels.size(); ++level) {
+        const QDir folder(staged.filePath(QString::number(level)));
+        const QFileInfoList tiles = folder.entryInfoList(
+            QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System | QDir::Hidden);
+        const PyramidLevel &expected = levels.at(level);
+        bool whole = tiles.size() == expected.columns * expected.rows;
+        for (int column = 0; whole && column < expected.columns; ++column)
+            for (int row = 0; whole && row < expected.rows; ++row) {
+                const QFileInfo tile(
+                    folder.filePath(QStringLiteral("%1_%2.jpg").arg(column).arg(row)));
+                whole = tile.isFile() && !tile.isSymLink() && tile.size() > 0;
+            }
+        if (!whole) {
+            *error = QStringLiteral("the tiles of level %1 are incomplete").arg(level);
             return false;
         }
     }
-    for (int level = 0; level < levelCount; ++level) {
-        const QString name = QString::number(level);
-        if (!folder.rename(staged + QStringLiteral("_files/") + name, name)) {
-            *error = QStringLiteral("cannot move the tiles of level %1 into %2")
-                         .arg(level)
-                         .arg(tilesFolder);
-            return false;
-        }
-    }
-    QDir(staged + QStringLiteral("_files")).removeRecursively();
-    QFile::remove(staged + QStringLiteral(".dzi"));
     return true;
 }
 
@@ -123,10 +133,15 @@ TileResult writeTilePyramid(const TileJob &job)
         result.error = QStringLiteral("nothing to tile");
         return result;
     }
-    if (!QDir().mkpath(job.tilesFolder)) {
-        result.error = QStringLiteral("cannot make the folder %1").arg(job.tilesFolder);
+    // Everything is cut into a fresh folder beside the image-data folder and moves in only when
+    // complete: a failure leaves the earlier export's tiles as they were.
+    const QString stagingFolder = job.tilesFolder + QStringLiteral(".vantora-staging");
+    if (!removePath(stagingFolder) || !QDir().mkpath(stagingFolder)) {
+        result.error = QStringLiteral("cannot make the folder %1").arg(stagingFolder);
         return result;
     }
+    const QString staged = stagingFolder + QLatin1Char('/') + QLatin1String(STAGING_NAME);
+    const QString stagedThumbnail = stagingFolder + QStringLiteral("/thumbnail.jpg");
     const QByteArray jpegSuffix = ".jpg[Q=" + QByteArray::number(job.quality) + ",strip]";
     int width = 0;
     int height = 0;
@@ -141,7 +156,6 @@ TileResult writeTilePyramid(const TileJob &job)
 
         ProgressRelay relay {&job.progress};
         const ProgressConnection connection(job.progress ? picture.get_image() : nullptr, &relay);
-        const QString staged = job.tilesFolder + QLatin1Char('/') + QLatin1String(STAGING_NAME);
         picture.dzsave(fileName(staged).constData(),
             vips::VImage::option()
                 ->set("layout", VIPS_FOREIGN_DZ_LAYOUT_DZ)
@@ -155,20 +169,25 @@ TileResult writeTilePyramid(const TileJob &job)
         const QString smallest = staged + QStringLiteral("_files/0/0_0.jpg");
         const vips::VImage thumbnail = vips::VImage::thumbnail(fileName(smallest).constData(),
             THUMBNAIL_SIZE, vips::VImage::option()->set("size", VIPS_SIZE_DOWN));
-        thumbnail.jpegsave(
-            fileName(job.tilesFolder + QLatin1Char('/') + thumbnailName(job.identifier))
-                .constData(),
+        thumbnail.jpegsave(fileName(stagedThumbnail).constData(),
             vips::VImage::option()->set("Q", job.quality)->set("strip", true));
     } catch (const vips::VError &failure) {
         result.error = QString::fromUtf8(failure.what()).simplified();
         vips_error_clear();
+        removePath(stagingFolder);
         return result;
     }
 
     result.levels = pyramidLevels(width, height);
-    if (!moveLevels(job.tilesFolder, result.levels.size(), &result.error))
-        return result;
-    result.ok = true;
+    const QString stagedLevels = staged + QStringLiteral("_files");
+    const bool complete = isComplete(stagedLevels, result.levels, &result.error)
+        && QFileInfo(stagedThumbnail).size() > 0;
+    if (complete && result.error.isEmpty())
+        result.ok = result.swap.swapIn(job.tilesFolder, stagedLevels, result.levels.size(),
+            stagedThumbnail, thumbnailName(job.identifier), &result.error);
+    else if (result.error.isEmpty())
+        result.error = QStringLiteral("the thumbnail was not written");
+    removePath(stagingFolder);
     return result;
 }
 

@@ -12,6 +12,8 @@
 #include <QProcess>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using vantora::test::viewerRoot;
 using vantora::test::writeFileBytes;
 
@@ -309,6 +311,37 @@ private Q_SLOTS:
             path("out"), nodeOf(path("out/view.json")).value("image").toObject(), QSize(700, 350));
     }
 
+    // Links planted where the export writes are replaced, never written through; a linked tiles
+    // folder is refused, and nothing outside the output folder changes.
+    void linksInTheFolderAreNotFollowed()
+    {
+        QVERIFY(writePicture(path("good.jpg"), 600, 300, Qt::gray));
+        QVERIFY(QDir().mkpath(path("out")) && QDir().mkpath(path("elsewhere/0")));
+        QVERIFY(writeFileBytes(path("victim.txt"), "outside\n"));
+        QVERIFY(writeFileBytes(path("elsewhere/0/0_0.jpg"), "outside\n"));
+        for (const char *name : {"out/x.json", "out/x.html", "out/vantoViewer.js"})
+            QVERIFY(QFile::link(path("victim.txt"), path(name)));
+
+        const Run done = run("@/good.jpg -o @/out/x.html");
+        QVERIFY2(done.status == 0, qPrintable(done.err));
+        QCOMPARE(vantora::test::readFileBytes(path("victim.txt")), QByteArray("outside\n"));
+        for (const char *name : {"out/x.json", "out/x.html", "out/vantoViewer.js"})
+            QVERIFY2(
+                !QFileInfo(path(name)).isSymLink() && QFileInfo(path(name)).size() > 100, name);
+
+        const QByteArray page = vantora::test::readFileBytes(path("out/x.json"));
+        QVERIFY(QDir(path("out/x_tiles")).removeRecursively());
+        QVERIFY(QFile::link(path("elsewhere"), path("out/x_tiles")));
+        const Run refused = run("@/good.jpg -o @/out/x.html --title other");
+        QCOMPARE(refused.status, 1);
+        QVERIFY2(refused.err.contains("x_tiles is a link"), qPrintable(refused.err));
+        QCOMPARE(vantora::test::readFileBytes(path("out/x.json")), page);
+        QCOMPARE(
+            vantora::test::readFileBytes(path("elsewhere/0/0_0.jpg")), QByteArray("outside\n"));
+        QCOMPARE(QDir(path("elsewhere")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList {"0"});
+    }
+
     void failedTourTakesBackItsFiles()
     {
         // The first page is written in full before the second turns out broken.
@@ -349,7 +382,13 @@ private Q_SLOTS:
             {"vextent 200",        "-o @/out/x.html --vextent 200",         "--vextent must be above 0 and at most 180"},
             {"location",           "-o @/out/x.html --location 91,10",      "--location must be LAT,LNG[,NORTH]"},
             {"interactive tour",   "@/good.jpg @/sub/good.jpg -o @/out/x.html --interactive", "--interactive exports one image at a time"},
-            {"two pages one name", "@/good.jpg @/sub/good.jpg -o @/out/good.html", "two pages would be named good.html"},
+            {"two pages one name", "@/good.jpg @/sub/good.jpg -o @/out/good.html", "good.html and good.html would write the same files (good.*)"},
+            {"one base name",      "@/good.jpg @/x.1.jpg @/x.2.jpg -o @/out/a.html", "x.1.html and x.2.html would write the same files (x.*)"},
+            {"a page's controls",  "@/good.jpg @/good_controls.jpg -o @/out/good.html", "good.html and good_controls.html would write the same files (good_controls.*)"},
+            {"the viewer's name",  "@/good.jpg -o @/out/vantoViewer.html", "the shared file vantoViewer and vantoViewer.html would write the same files"},
+            {"hotspots a pipe",    "-o @/out/x.html --hotspots @/fifo",     "--hotspots: cannot read @/fifo"},
+            {"settings a pipe",    "-o @/out/x.html --settings @/fifo",     "--settings: cannot read @/fifo"},
+            {"too many pixels",    "@/good.jpg -o @/out/x.html --max-pixels 1000", "@/good.jpg has 600x300 pixels, more than 1000 (see --max-pixels)"},
             {"hotspots not JSON",  "-o @/out/x.html --hotspots @/text.jpg", "@/text.jpg: illegal value at byte 1"},
             {"hotspot type",       "-o @/out/x.html --hotspots @/badtype.json", "@/badtype.json: hotspot 1: \"type\" must be \"link\" or \"info\""},
             {"hotspot bitmap",     "-o @/out/x.html --hotspots @/badbitmap.json", "@/badbitmap.json: hotspot 1: bitmap :/hotspots/none.png not found"},
@@ -378,6 +417,10 @@ private Q_SLOTS:
         QVERIFY(writeFileBytes(path("badtype.json"), BAD_TYPE_HOTSPOTS));
         QVERIFY(writeFileBytes(path("badbitmap.json"), BAD_BITMAP_HOTSPOTS));
         QVERIFY(writeFileBytes(path("far.json"), FAR_HOTSPOTS));
+        for (const char *name : {"x.1.jpg", "x.2.jpg", "good_controls.jpg"})
+            QVERIFY(QFile::copy(path("good.jpg"), path(name)) || QFile::exists(path(name)));
+        QVERIFY(::mkfifo(QFile::encodeName(path("fifo")).constData(), 0600) == 0
+            || QFileInfo(path("fifo")).exists());
 
         const Run r = run(arguments);
         QVERIFY(r.status > 0);

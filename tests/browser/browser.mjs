@@ -1,0 +1,78 @@
+// Debian's Chromium, driven by playwright-core, headless with software WebGL (SwiftShader through
+// ANGLE), a fresh profile and no network services of its own.
+import fs from 'node:fs';
+import os from 'node:os';
+import path from 'node:path';
+import { createRequire } from 'node:module';
+
+export const CHROMIUM_ARGS = [
+  '--use-gl=angle', '--use-angle=swiftshader', '--enable-unsafe-swiftshader', '--ignore-gpu-blocklist',
+  '--no-sandbox', '--disable-gpu-sandbox', '--no-first-run', '--disable-background-networking',
+  '--disable-component-update', '--disable-sync', '--disable-quic', '--disable-extensions',
+  '--lang=en-US',
+];
+
+export async function launchBrowser(modules, viewport = { width: 1000, height: 700 }) {
+  const { chromium } = createRequire(path.join(modules, 'noop.js'))('playwright-core');
+  const profile = fs.mkdtempSync(path.join(os.tmpdir(), 'vanto-chromium-'));
+  const context = await chromium.launchPersistentContext(profile, {
+    executablePath: process.env.CHROMIUM || '/usr/bin/chromium',
+    headless: true,
+    args: CHROMIUM_ARGS,
+    viewport,
+    locale: 'en-US',
+  });
+  return {
+    context,
+    async close() {
+      await context.close();
+      fs.rmSync(profile, { recursive: true, force: true });
+    },
+  };
+}
+
+// Opens a page and waits for its viewer's `ready`; collects page errors and console errors.
+export async function openViewer(context, url, { expectFailure = false, language } = {}) {
+  const page = await context.newPage();
+  if (language) {
+    await page.addInitScript((lang) => Object.defineProperty(navigator, 'language', { get: () => lang }), language);
+  }
+  const errors = [];
+  page.on('pageerror', (e) => errors.push(`page error: ${e.message}`));
+  page.on('console', (m) => { if (m.type() === 'error') errors.push(`console: ${m.text()}`); });
+  await page.goto(url);
+  const outcome = await waitReady(page);
+  if (!expectFailure && outcome !== 'ready') throw new Error(`${url}: viewer not ready: ${outcome}`);
+  return { page, errors, outcome };
+}
+
+// Resolves 'ready', 'failed: reason', or 'timeout' when neither comes within a minute.
+export function waitReady(page) {
+  return page.evaluate(() => new Promise((resolve) => {
+    setTimeout(() => resolve('timeout'), 60000);
+    const poll = () => {
+      const v = window.vantoViewer && window.vantoViewer.get('vantoViewerID');
+      if (!v) { requestAnimationFrame(poll); return; }
+      v.ready.then(() => resolve('ready'), (e) => resolve(`failed: ${e && e.message}`));
+    };
+    poll();
+  }));
+}
+
+// Colours of points of the viewer area, read from a screenshot (a page from disk cannot read its
+// own canvas).
+export async function pixels(page, points) {
+  const box = await page.locator('#vantoViewerID').boundingBox();
+  const png = (await page.screenshot({ clip: box })).toString('base64');
+  return page.evaluate(async ({ data, at }) => {
+    const img = new Image();
+    img.src = `data:image/png;base64,${data}`;
+    await img.decode();
+    const canvas = document.createElement('canvas');
+    canvas.width = img.width;
+    canvas.height = img.height;
+    const ctx = canvas.getContext('2d');
+    ctx.drawImage(img, 0, 0);
+    return at.map(([x, y]) => Array.from(ctx.getImageData(Math.round(x), Math.round(y), 1, 1).data.slice(0, 3)));
+  }, { data: png, at: points });
+}

@@ -1,0 +1,428 @@
+// One viewer in one page element: loads the files, draws the panorama or flat picture, runs the
+// handlers and actions of the files and offers the scripting interface (viewer methods) that the
+// handler texts call.
+import { loadWithIncludes } from './loader.js';
+import { text } from './texts.js';
+import { Pyramid } from './pyramid.js';
+import { makeCamera, project, direction, wrapPan } from './geometry.js';
+import { sphericalFrame, sphericalPlacer, flatPlacer, visibleTiles } from './scene.js';
+import { sphericalLimits, clampSpherical, clampFlat, fitScale, isFullCircle } from './camera.js';
+import { Canvas2DRenderer } from './render2d.js';
+import { createWebGLRenderer } from './renderwebgl.js';
+import { run } from './scripting.js';
+import { Tweens } from './tween.js';
+import { easing } from './easing.js';
+import { TextBox, createLogo } from './elements.js';
+import { Hotspot } from './hotspots.js';
+import { embeddedCorners } from './embedded.js';
+import { Sound } from './audio.js';
+import { LensFlares } from './lensflare.js';
+import { Input } from './input.js';
+import { installStyles, showError, showWebGLNotice } from './overlay.js';
+import { methods } from './methods.js';
+
+// Tiles kept in memory (and as textures) beyond those of the current frame.
+const TILE_CACHE = 300;
+
+export class Viewer {
+  constructor(elementId, paramsFile, options) {
+    this.elementId = elementId;
+    this.paramsFile = paramsFile;
+    this.options = options || {};
+    this.webglAvailable = false;
+    this.gyroAvailable = false;
+    this.currentMBId = null;
+    this.hasGallery = false;
+    this.hotspotsVisible = true;
+    this.distortion = 0;
+    this.locked = false;
+    this.playing = false;
+    this.elements = new Map();
+    this.settleWaiters = [];
+    this.handlers = {};
+    this.actions = new Map();
+    this.translations = {};
+    this.tweens = new Tweens(() => this.requestFrame());
+    this.ready = new Promise((resolve, reject) => { this.resolveReady = resolve; this.rejectReady = reject; });
+    this.ready.catch(() => {});
+    this.start().catch((error) => this.fail(error));
+  }
+
+  // What the handler texts see as `this.viewer`.
+  get api() {
+    return this;
+  }
+
+  async start() {
+    const container = document.getElementById(this.elementId);
+    if (!container) throw new Error(text('noElement', this.elementId));
+    this.container = container;
+    installStyles();
+    // The viewer fills its element: the element must be the frame of what is placed inside.
+    if (getComputedStyle(container).position === 'static') container.style.position = 'relative';
+    const root = document.createElement('div');
+    root.className = 'vanto-root';
+    root.tabIndex = 0;
+    root.setAttribute('role', 'application');
+    container.appendChild(root);
+    this.root = root;
+    this.baseUrl = new URL(this.paramsFile, document.baseURI).href;
+    const roots = await loadWithIncludes(this.paramsFile);
+    this.configure(roots);
+    this.createRenderer();
+    this.createElements();
+    this.input = new Input(this);
+    new ResizeObserver(() => { this.requestFrame(); this.fire('onresize'); }).observe(root);
+    this.fire('onuseswebgl', this.webglAvailable);
+    if (!this.webglAvailable && !String(this.options.html5 || '').includes('disable_webgl_warning')) {
+      showWebGLNotice(this.root, text('noWebgl'), text('close'));
+    }
+    this.fire('oninit');
+    this.fire('onscenechanged');
+    for (const element of this.elements.values()) if (element.oninit) element.oninit();
+    if (this.autoplay.status === 'on') this.startAutoPlay();
+    this.requestFrame();
+  }
+
+  fail(error) {
+    console.error('vantoViewer:', error.message || error);
+    if (this.root) this.root.replaceChildren();
+    const target = this.root || document.getElementById(this.elementId);
+    if (target) showError(target, error.message || String(error));
+    this.rejectReady(error);
+  }
+
+  // Takes the members of the parameter file and of its includes.
+  configure(roots) {
+    const main = roots[0];
+    const node = main.node || {};
+    this.params = main;
+    this.node = node;
+    if (!node.image || !Array.isArray(node.image.levels) || !node.image.levels.length) {
+      throw new Error(text('noImage', this.paramsFile));
+    }
+    this.image = node.image;
+    this.flat = node.image.projection === 'flat';
+    this.control = main.control || {};
+    this.autoplay = { status: 'off', pan: 0, tilt: 0, zoom: 0, restart: 0, ...(node.autoplay || {}) };
+    this.hotspotsVisible = !node.hotspots || node.hotspots.visible !== false;
+    this.pyramid = new Pyramid(node.image, document.baseURI);
+    this.pyramid.onload = () => this.requestFrame();
+    this.limits = sphericalLimits(node.camera, node.image);
+    const view = node.view || {};
+    this.startView = { pan: Number(view.pan) || 0, tilt: Number(view.tilt) || 0, hfov: Number(view.hfov) || 90 };
+    this.view = { ...this.startView };
+    this.flatView = null;
+    for (const data of [main.data, node.data]) if (data && data.id) this.elements.set(data.id, data);
+    for (const root of roots) {
+      if (root.events) Object.assign(this.handlers, root.events);
+      for (const action of root.actions || []) if (action && action.id) this.actions.set(action.id, action.func);
+      if (root.translate) {
+        for (const [lang, table] of Object.entries(root.translate)) {
+          this.translations[lang] = { ...(this.translations[lang] || {}), ...table };
+        }
+      }
+      if (root.gallery) this.galleryData = root.gallery;
+    }
+    this.controls = roots.slice(1);
+  }
+
+  createRenderer() {
+    const fromDisk = location.protocol === 'file:' || new URL(this.baseUrl).protocol === 'file:';
+    let renderer = null;
+    let canvas = document.createElement('canvas');
+    if (!fromDisk) renderer = createWebGLRenderer(canvas);
+    if (!renderer) {
+      canvas = document.createElement('canvas');
+      renderer = new Canvas2DRenderer(canvas);
+    }
+    canvas.className = 'vanto-canvas';
+    this.root.appendChild(canvas);
+    this.overlay = document.createElement('div');
+    this.overlay.className = 'vanto-overlay';
+    this.root.appendChild(this.overlay);
+    this.canvas = canvas;
+    this.renderer = renderer;
+    this.webglAvailable = renderer.webgl;
+  }
+
+  createElements() {
+    const node = this.node;
+    for (const box of node.textbox || []) this.addElement(new TextBox(this, box));
+    if (this.params.logo && this.params.logo.src) this.overlay.appendChild(createLogo(this, this.params.logo));
+    this.hotspotList = [];
+    for (const members of node.hotspot || []) {
+      if (!members || !members.bitmap) continue;
+      const hotspot = new Hotspot(this, members);
+      if (members.bitmaptype === 'embedded' && members.embeddedwidth) {
+        hotspot.embeddedWidth = Number(members.embeddedwidth);
+        hotspot.inPanorama = !this.flat;
+        hotspot.setHover(false);
+      }
+      this.hotspotList.push(hotspot);
+      this.addElement(hotspot);
+    }
+    this.lensFlares = node.lensflare && node.lensflare.length && !this.flat
+      ? new LensFlares(this.overlay, node.lensflare) : null;
+    this.sound = null;
+    const audio = this.params.audio || node.audio;
+    if (audio && audio.src) {
+      this.sound = new Sound(this, audio);
+      this.elements.set(audio.id || 'gAudio', this.sound);
+    }
+  }
+
+  addElement(element) {
+    if (element.id) {
+      const old = this.elements.get(element.id);
+      if (old && old.destroy) old.destroy();
+      this.elements.set(element.id, element);
+    }
+    if (element.node) this.overlay.appendChild(element.node);
+    return element;
+  }
+
+  // Fires an event: the handler of the events object runs with `this` holding viewer, get and
+  // tween.
+  fire(name, ...args) {
+    const source = this.handlers[name];
+    if (!source) return undefined;
+    return run(source, this.context(), 'mainEvents', name, args);
+  }
+
+  context() {
+    const viewer = this.api;
+    return { viewer, get: (id) => this.get(id), tween(params) { return viewer.tweens.add(this, params, 'action'); } };
+  }
+
+  get(id) {
+    return this.elements.has(id) ? this.elements.get(id) : null;
+  }
+
+  size() {
+    const r = this.root.getBoundingClientRect();
+    return { width: Math.max(0, r.width), height: Math.max(0, r.height) };
+  }
+
+  requestFrame() {
+    if (this.frameRequested || !this.renderer) return;
+    this.frameRequested = true;
+    requestAnimationFrame((now) => { this.frameRequested = false; this.frame(now); });
+  }
+
+  // One animation step and one drawing of the view.
+  frame(now) {
+    const dt = this.lastFrame ? Math.min(0.1, (now - this.lastFrame) / 1000) : 0;
+    this.lastFrame = now;
+    let animating = this.tweens.step(now);
+    animating = this.stepMove(now) || animating;
+    animating = this.input.step(dt) || animating;
+    if (this.playing) { this.stepAutoPlay(dt); animating = true; }
+    const complete = this.draw();
+    if (complete && !this.readyDone) {
+      this.readyDone = true;
+      this.resolveReady(this.api);
+    }
+    if (complete && this.settleWaiters.length) {
+      const waiters = this.settleWaiters;
+      this.settleWaiters = [];
+      for (const resolve of waiters) resolve(this.api);
+    }
+    if (animating) this.requestFrame();
+    else this.lastFrame = 0;
+  }
+
+  // Draws the current view: the smallest level under the level in use, so that nothing stays
+  // black while tiles load. Returns whether every tile of the level in use is drawn.
+  draw() {
+    const { width, height } = this.size();
+    const ratio = Math.min(window.devicePixelRatio || 1, this.renderer.maxPixelRatio);
+    this.renderer.begin(width, height, ratio);
+    if (width < 1 || height < 1) return true;
+    let placer;
+    let level;
+    if (this.flat) {
+      if (!this.flatView) {
+        const fit = fitScale(this.image, width, height);
+        this.flatView = { x: this.image.width / 2, y: this.image.height / 2, scale: fit };
+      }
+      this.flatView = clampFlat(this.flatView, this.image, width, height);
+      placer = flatPlacer(this.pyramid, this.flatView, { width, height });
+      level = this.pyramid.levelFor(this.image.width * this.flatView.scale * ratio);
+    } else {
+      this.view = clampSpherical(this.view, this.limits, width, height, this.distortion);
+      this.camera = makeCamera(this.view, width, height, this.distortion);
+      this.frame3d = sphericalFrame(this.image, this.node.camera);
+      placer = sphericalPlacer(this.pyramid, this.frame3d, this.camera);
+      const perDegree = (width * ratio) / this.view.hfov;
+      level = this.pyramid.levelFor(perDegree * this.frame3d.hextent);
+    }
+    const wanted = visibleTiles(this.pyramid, level, placer);
+    if (level > 0) {
+      for (const { tile, mesh } of visibleTiles(this.pyramid, 0, placer)) {
+        if (tile.state === 'ready') this.renderer.drawTile(tile, mesh);
+      }
+    }
+    let complete = true;
+    this.frameCount = (this.frameCount || 0) + 1;
+    for (const { tile, mesh } of wanted) {
+      tile.used = this.frameCount;
+      if (tile.state === 'ready') this.renderer.drawTile(tile, mesh);
+      else if (tile.state === 'loading') complete = false;
+    }
+    this.renderer.end();
+    this.pyramid.evict(this.frameCount, TILE_CACHE, (tile) => this.renderer.forget(tile));
+    this.placeOverlays(width, height);
+    return complete;
+  }
+
+  // Screen point of a hotspot position ("deg" pan and tilt, or "norm" fractions on flat pictures).
+  screenPoint(pan, tilt, unit) {
+    if (this.flat) {
+      const { width, height } = this.size();
+      const v = this.flatView;
+      if (!v) return null;
+      const x = unit === 'norm' ? pan * this.image.width : pan;
+      const y = unit === 'norm' ? tilt * this.image.height : tilt;
+      return [width / 2 + (x - v.x) * v.scale, height / 2 + (y - v.y) * v.scale];
+    }
+    const p = project(this.camera, direction(this.frame3d.left + pan, tilt));
+    if (!p) return null;
+    if (p[0] < -200 || p[1] < -200 || p[0] > this.camera.width + 200 || p[1] > this.camera.height + 200) return null;
+    return p;
+  }
+
+  placeOverlays(width, height) {
+    for (const h of this.hotspotList) {
+      if (h.inPanorama) {
+        const [w, hgt] = h.bitmapSize();
+        h.placeEmbedded(w ? embeddedCorners(this.camera, this.frame3d.left + h.pan, h.tilt, h.embeddedWidth, h.rotate, w, hgt) : null);
+        continue;
+      }
+      // Embedded bitmaps of flat pictures: "embeddedwidth" is their width as a share of the picture's.
+      const natural = h.bitmapSize()[0] || 1;
+      const scale = h.embeddedWidth && this.flatView ? (h.embeddedWidth * this.image.width * this.flatView.scale) / natural : 0;
+      h.place(this.screenPoint(h.pan, h.tilt, h.unit), scale);
+    }
+    if (this.lensFlares) this.lensFlares.place((pan, tilt) => this.screenPoint(pan, tilt, 'deg'), width, height);
+  }
+
+  // A scripted camera move (panTo); returns whether it still runs.
+  stepMove(now) {
+    const m = this.move;
+    if (!m) return false;
+    if (now < m.start) return true;
+    if (!m.from) {
+      // The move starts from wherever the view is when its delay is over.
+      m.from = { ...this.view };
+      const to = m.to;
+      m.delta = { pan: isFullCircle(this.limits) ? wrapPan(to.pan - m.from.pan) : to.pan - m.from.pan };
+    }
+    const t = m.duration > 0 ? Math.min(1, (now - m.start) / m.duration) : 1;
+    const k = m.curve(t);
+    this.view = {
+      pan: m.from.pan + m.delta.pan * k,
+      tilt: m.from.tilt + (m.to.tilt - m.from.tilt) * k,
+      hfov: m.from.hfov + (m.to.hfov - m.from.hfov) * k,
+    };
+    if (t >= 1) {
+      this.move = null;
+      if (m.unlock) this.locked = false;
+      return false;
+    }
+    return true;
+  }
+
+  panTo(pan, tilt, hfov, time, delay, transition, unlock) {
+    const given = (value, current) => (Number.isFinite(Number(value)) && value !== null && value !== '' ? Number(value) : current);
+    const to = { pan: given(pan, this.view.pan), tilt: given(tilt, this.view.tilt), hfov: given(hfov, this.view.hfov) };
+    this.move = {
+      from: null,
+      to,
+      start: performance.now() + (Number(delay) || 0) * 1000,
+      duration: (Number(time) || 0) * 1000,
+      curve: easing(transition),
+      unlock: !!unlock,
+    };
+    this.requestFrame();
+  }
+
+  // User input: stops autoplay, and starts it again after the restart delay.
+  userInput() {
+    this.move = null;
+    if (this.playing) this.stopAutoPlay();
+    clearTimeout(this.restartTimer);
+    const restart = Number(this.autoplay.restart) || 0;
+    if (this.autoplay.status === 'on' && restart > 0) {
+      this.restartTimer = setTimeout(() => this.startAutoPlay(), restart * 1000);
+    }
+  }
+
+  startAutoPlay() {
+    if (this.playing) return;
+    this.playing = true;
+    this.autoplayDirection = 1;
+    this.fire('onplay');
+    this.requestFrame();
+  }
+
+  stopAutoPlay() {
+    clearTimeout(this.restartTimer);
+    if (!this.playing) return;
+    this.playing = false;
+    this.fire('onstop');
+  }
+
+  // Autoplay turns the view by "pan" degrees a second (bouncing at the edges of a partial
+  // panorama), brings the tilt back to the horizon at "tilt" degrees a second and the field of view
+  // back to the start view's at "zoom" degrees a second.
+  stepAutoPlay(dt) {
+    if (this.flat || this.locked) return;
+    const a = this.autoplay;
+    const v = { ...this.view };
+    v.pan += (Number(a.pan) || 0) * dt * this.autoplayDirection;
+    if (!isFullCircle(this.limits)) {
+      const { width, height } = this.size();
+      const clamped = clampSpherical(v, this.limits, width, height, this.distortion);
+      if (Math.abs(clamped.pan - v.pan) > 1e-6) this.autoplayDirection = -this.autoplayDirection;
+    }
+    const toward = (value, target, rate) => {
+      const step = Math.abs(rate) * dt;
+      return Math.abs(target - value) <= step ? target : value + Math.sign(target - value) * step;
+    };
+    v.tilt = toward(v.tilt, 0, Number(a.tilt) || 0);
+    v.hfov = toward(v.hfov, this.startView.hfov, Number(a.zoom) || 0);
+    this.view = v;
+  }
+
+  // Opens a link hotspot's address after its transition ("zoomin" towards the hotspot, "blend" to
+  // black, each with its time in seconds).
+  followLink(hotspot, href, target) {
+    if (target && target !== '_self' && target !== '_top' && target !== '_parent') {
+      window.open(href, target);
+      return;
+    }
+    const steps = String(hotspot.transition || '').split(';').map((s) => s.split(','));
+    let wait = 0;
+    for (const [kind, seconds] of steps) {
+      const time = Math.min(Number(seconds) || 0, 2) / 2;
+      if (kind === 'zoomin' && !this.flat) {
+        this.panTo(hotspot.pan + this.frame3d.left, hotspot.tilt, Math.max(this.limits.minhfov, this.view.hfov / 3), time, 0, 'easeInSine');
+        wait = Math.max(wait, time);
+      } else if (kind === 'blend') {
+        this.root.style.transition = `opacity ${time}s`;
+        this.root.style.opacity = '0';
+        wait = Math.max(wait, time);
+      }
+    }
+    this.locked = true;
+    setTimeout(() => {
+      this.fire('onexit');
+      if (target === '_top' && window.top) window.top.location.href = href;
+      else if (target === '_parent' && window.parent) window.parent.location.href = href;
+      else window.location.href = href;
+    }, wait * 1000);
+  }
+}
+
+Object.assign(Viewer.prototype, methods);
