@@ -143,6 +143,11 @@ async function checkLayout(page, { design, position }, params) {
 }
 
 const clickOn = (page, id) => page.locator(`#vantoViewerID .vanto-button[data-id="${id}"]`).click();
+// Clicks the centre of the rectangle `r` that `body` finds.
+async function clickAt(page, body) {
+  const { x, y } = await call(page, `${body} return { x: r.left + r.width / 2, y: r.top + r.height / 2 };`);
+  await page.mouse.click(x, y);
+}
 const view = (page) => call(page, 'return v.getView();');
 const until = (page, body) => page.waitForFunction(
   (b) => new Function('v', b)(vantoViewer.get('vantoViewerID')), body, { timeout: 5000 });
@@ -169,6 +174,11 @@ async function checkClicks(page, design) {
   await until(page, 'return !!v.currentMBId;');
   await clickOn(page, 'infobutton');
   await until(page, 'return !v.currentMBId;');
+  // The hotspot opens its message box, a click on the box closes it.
+  await clickAt(page, 'const r = v.hotspots()[0].node.getBoundingClientRect();');
+  await until(page, "return /^hsinfo/.test(v.currentMBId || '');");
+  await clickAt(page, 'const r = v.get(v.currentMBId).node.getBoundingClientRect();');
+  await until(page, 'return !v.currentMBId;');
 
   await clickOn(page, 'hotspotsButton');
   await until(page, 'return !v.hotspotsVisible;');
@@ -189,6 +199,7 @@ async function checkClicks(page, design) {
   await clickOn(page, 'vrButton');
 
   await checkMenu(page, what);
+  await checkGyroscope(page, what);
 
   // Hide the toolbar and bring it back.
   const shown = await call(page, "return v.get('toolbar').node.getBoundingClientRect().top;");
@@ -253,6 +264,19 @@ async function checkMenu(page, what) {
   await page.keyboard.press('Escape');
 }
 
+// A device that reports its orientation: the gyroscope button shows itself, and it and the menu
+// item switch the steering on and off with the button's face following.
+async function checkGyroscope(page, what) {
+  await page.evaluate(() => window.dispatchEvent(new DeviceOrientationEvent('deviceorientation', { alpha: 10, beta: 80, gamma: 0 })));
+  await until(page, "return v.get('gyrobutton').visible;");
+  await clickOn(page, 'gyrobutton');
+  await until(page, "const b = v.get('gyrobutton'); return v.gyroscopeEnabled() && b.skin === b.enabledskin;");
+  await openMenu(page);
+  assert.ok((await call(page, MENU_SHOWN)).includes('Gyroscope Control'), `${what}: no gyroscope item`);
+  await chooseItem(page, 'Gyroscope Control');
+  await until(page, "const b = v.get('gyrobutton'); return !v.gyroscopeEnabled() && b.skin === b.disabledskin;");
+}
+
 // German: the buttons' names and the menu's captions from the file's translations; without
 // WebGL the little-planet views are hidden and their separators with them.
 async function checkGerman(context, dir) {
@@ -266,6 +290,11 @@ async function checkGerman(context, dir) {
     await page.close();
   }
 }
+
+// Texts that only VR mode and leaving the page run (the stereo buttons' onclick, onentervrmode,
+// onexitvrmode, onexit): they come with the viewer's VR and tour. Every other text must run.
+const PENDING = [/^function\(\)\{ this\.viewer\.exitVRMode\(\);  \} $/, /^function\(\)\{ this\.viewer\.action\('hideMessage'\); var tb = this\.get\('toolbar'\); tb&&tb\.setVisible\(false\);/,
+  /^function\(\)\{  var tb = this\.get\('toolbar'\); tb&&tb\.setVisible\(true\);/, /this\.viewer\.gyroWasEnabled = this\.viewer\.gyroAvailable&&/];
 
 function handlerTexts(dir) {
   const texts = new Set();
@@ -333,7 +362,12 @@ async function main() {
   const covered = [...allTexts].filter((t) => ran.has(t)).length;
   console.log(`# handler and action texts in the files: ${allTexts.size}; ran: ${covered}; threw: ${failed.size}`);
   console.log(`# ${pages.length} pages in ${((Date.now() - started) / 1000).toFixed(1)} s`);
-  if (process.env.VANTO_LIST_UNRUN) for (const t of allTexts) if (!ran.has(t)) console.log(`# not run: ${t.slice(0, 200)}`);
+  for (const t of allTexts) {
+    if (ran.has(t)) continue;
+    const pending = PENDING.some((re) => re.test(t));
+    if (!pending) failures++;
+    console.log(`${pending ? '# pending' : 'not ok - never ran'}: ${t.slice(0, 160)}`);
+  }
   if (failed.size) {
     failures++;
     for (const t of failed) console.log(`not ok - threw: ${t.slice(0, 160)}`);
