@@ -278,13 +278,18 @@ async function checkGyroscope(page, what) {
 }
 
 // German: the buttons' names and the menu's captions from the file's translations; without
-// WebGL the little-planet views are hidden and their separators with them.
+// WebGL the little-planet views are hidden and their separators with them. And faces at 2x.
 async function checkGerman(context, dir) {
   const { page, errors } = await openViewer(context, pathToFileURL(path.join(dir, 'room.html')).href, { language: 'de-DE' });
   try {
     assert.equal(await call(page, "return v.get('fullscreenButton').node.getAttribute('aria-label');"), 'Vollbild');
     await openMenu(page);
     assert.deepEqual(await call(page, MENU_SHOWN), ['Vollbild', '-', '\u00dcber Vantora...'], 'German menu');
+    // At two device pixels per CSS pixel the faces are painted at twice the size.
+    const cdp = await page.context().newCDPSession(page);
+    await cdp.send('Emulation.setDeviceMetricsOverride', { width: W, height: H, deviceScaleFactor: 2, mobile: false });
+    const face = await call(page, "const b = v.get('fullscreenButton'); b.updateSkins(); return [b.face.width, b.face.height, b.buttonWidth, b.buttonHeight];");
+    assert.deepEqual(face, [face[2] * 2, face[3] * 2, face[2], face[3]], 'faces at a pixel ratio of 2');
     assert.deepEqual(errors, [], 'German page: errors');
   } finally {
     await page.close();
