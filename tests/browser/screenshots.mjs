@@ -1,5 +1,6 @@
 // Takes the README's screenshots (run by hand, not a test): the exported sample from disk, a flat
-// picture and a tour page with its title, hotspots and an open message box.
+// picture, a tour page with its title, hotspots and an open message box, and a contact sheet of
+// the eight toolbar designs.
 //
 //   node tests/browser/screenshots.mjs BUILD_DIR OUTPUT_DIR
 import fs from 'node:fs';
@@ -45,5 +46,26 @@ await shoot('shots/hall.html', 'viewer-tour.png', async (p) => {
   await p.locator('.vanto-hotspot').first().click();
   await p.locator('.vanto-hotspot').last().hover();
 });
+// The eight toolbar designs on the sample, every button switched on: the lower edge of each page,
+// stacked into one sheet.
+const strips = [];
+for (let design = 0; design < 8; design++) {
+  const preset = path.join(work, `src/design${design}.ini`);
+  fs.writeFileSync(preset, ['[Toolbar]', `TBDesign=${design}`, 'PlayButton=1', '[Applet]', 'ShowArrowButtons=1',
+    'ShowZoomButtons=1', 'HotspotsButton=1', 'ShowToolbarFullscreen=1', 'ShowWebGLWarning=0', ''].join('\r\n'));
+  const page = `designs/design${design}.html`;
+  exportPage(tool, [hall, '--hotspots', path.join(work, 'src/hotspots.json'), '--settings', preset, '-o', path.join(work, page)]);
+  const { page: p } = await openViewer(browser.context, pathToFileURL(path.join(work, page)).href);
+  await p.evaluate(() => vantoViewer.get('vantoViewerID').settled());
+  const box = await p.locator('#vantoViewerID').boundingBox();
+  const png = await p.screenshot({ clip: { x: box.x, y: box.y + box.height - 72, width: box.width, height: 72 } });
+  strips.push(`<div>Typ ${design + 1}</div><img src="data:image/png;base64,${png.toString('base64')}">`);
+  await p.close();
+}
+const sheet = await browser.context.newPage();
+await sheet.setContent(`<body style="margin:0;background:#fff;font:14px Arial;width:800px">
+<style>div{padding:6px 8px}img{display:block}</style>${strips.join('')}</body>`);
+await sheet.screenshot({ path: path.join(out, 'viewer-designs.png'), fullPage: true });
+await sheet.close();
 await browser.close();
 fs.rmSync(work, { recursive: true, force: true });

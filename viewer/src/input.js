@@ -38,7 +38,9 @@ export class Input {
     v.root.focus({ preventScroll: true });
     v.userInput();
     if (v.locked) return;
-    v.root.setPointerCapture && v.root.setPointerCapture(e.pointerId);
+    // A pointer may already be gone when its press arrives (or never was a device's): capture is
+    // then not possible and not needed.
+    try { v.root.setPointerCapture(e.pointerId); } catch (error) { /* nothing to capture */ }
     this.pointers.set(e.pointerId, { x: e.clientX, y: e.clientY, startX: e.clientX, startY: e.clientY, mode: this.mode(e) });
     this.pinch = this.pointers.size === 2 ? this.spread() : null;
     e.preventDefault();

@@ -1,5 +1,6 @@
 // The page's entry point: the global `vantoViewer` with insert and get.
 import { Viewer } from './viewer.js';
+import { record } from './scripting.js';
 
 const viewers = new Map();
 
@@ -16,3 +17,8 @@ export function get(elementId) {
 }
 
 export const version = '1.0';
+
+// The handler and action texts run so far in this page, and those of them that threw.
+export function scriptRecord() {
+  return { ran: [...record.ran].filter((s) => typeof s === 'string'), failed: [...record.failed].map(String) };
+}

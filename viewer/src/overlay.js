@@ -8,6 +8,15 @@ const CSS = `
 .vanto-canvas{position:absolute;left:0;top:0;width:100%;height:100%;display:block}
 .vanto-overlay{position:absolute;left:0;top:0;width:100%;height:100%;pointer-events:none}
 .vanto-overlay a,.vanto-overlay .vanto-textbox{pointer-events:auto}
+.vanto-toolbar{z-index:25;box-sizing:border-box;pointer-events:auto}
+.vanto-button{position:absolute;margin:0;padding:0;border:0;background:transparent;box-sizing:border-box;cursor:pointer;
+ pointer-events:auto;z-index:26;overflow:visible}
+.vanto-button:focus-visible{outline:2px solid #4da3ff;outline-offset:2px}
+.vanto-face{position:absolute;pointer-events:none}
+.vanto-menu{min-width:160px;padding:4px 0;font:13px/1.2 Arial,Helvetica,sans-serif;color:#000;user-select:none}
+.vanto-menuitem[role=menuitem]{padding:6px 16px;cursor:pointer;white-space:nowrap;outline:none}
+.vanto-menuitem[role=menuitem]:hover,.vanto-menuitem[role=menuitem]:focus{background:rgba(0,0,0,0.12)}
+.vanto-menuitem[role=separator]{height:1px;margin:4px 8px;background:rgba(0,0,0,0.3)}
 .vanto-error{position:absolute;left:10%;right:10%;top:30%;padding:16px;border:2px solid #c00;background:#fff;
  color:#900;font:15px/1.4 Arial,Helvetica,sans-serif;text-align:left;z-index:50}
 .vanto-notice{position:absolute;left:8px;right:8px;bottom:8px;padding:8px 36px 8px 10px;background:rgba(0,0,0,0.75);

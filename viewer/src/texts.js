@@ -10,6 +10,14 @@ const TEXTS = {
     noWebgl: 'This panorama is shown without WebGL, in reduced quality and without the little-planet view. ' +
       'Pages opened from disk cannot use WebGL; from a web server the panorama is shown in full quality.',
     close: 'Close',
+    hideTbButton: 'Hide the controls', showTbButton: 'Show the controls', infobutton: 'Information',
+    hotspotsButton: 'Hotspots on or off', type1: 'Turn left', type2: 'Turn right', type3: 'Look up',
+    type4: 'Look down', type5: 'Zoom in', type6: 'Zoom out', playbutton: 'Autoplay on or off',
+    vrButton: 'VR view', gyrobutton: 'Gyroscope on or off', audiobutton: 'Sound on or off',
+    fullscreenButton: 'Full screen', gallerybutton: 'Gallery', mapbutton: 'Map',
+    galleryBtnPrev: 'Previous panorama', galleryBtnNext: 'Next panorama', navLeftButton: 'Previous panorama',
+    navRightButton: 'Next panorama', leftStereoButton: 'Leave the VR view', rightStereoButton: 'Leave the VR view',
+    button: 'Button',
   },
   de: {
     missing: 'Das Panorama konnte nicht geladen werden: Die Datei „%s“ fehlt oder ist nicht lesbar.',
@@ -20,6 +28,14 @@ const TEXTS = {
     noWebgl: 'Dieses Panorama wird ohne WebGL gezeigt, in geringerer Qualität und ohne Little-Planet-Ansicht. ' +
       'Von der Festplatte geöffnete Seiten können WebGL nicht nutzen; über einen Webserver wird das Panorama in voller Qualität gezeigt.',
     close: 'Schließen',
+    hideTbButton: 'Bedienelemente ausblenden', showTbButton: 'Bedienelemente einblenden', infobutton: 'Information',
+    hotspotsButton: 'Hotspots ein oder aus', type1: 'Nach links drehen', type2: 'Nach rechts drehen', type3: 'Nach oben schauen',
+    type4: 'Nach unten schauen', type5: 'Vergrößern', type6: 'Verkleinern', playbutton: 'Automatische Drehung ein oder aus',
+    vrButton: 'VR-Ansicht', gyrobutton: 'Gyroskop ein oder aus', audiobutton: 'Ton ein oder aus',
+    fullscreenButton: 'Vollbild', gallerybutton: 'Galerie', mapbutton: 'Karte',
+    galleryBtnPrev: 'Vorheriges Panorama', galleryBtnNext: 'Nächstes Panorama', navLeftButton: 'Vorheriges Panorama',
+    navRightButton: 'Nächstes Panorama', leftStereoButton: 'VR-Ansicht verlassen', rightStereoButton: 'VR-Ansicht verlassen',
+    button: 'Schaltfläche',
   },
 };
 
@@ -32,4 +48,9 @@ export function language() {
 export function text(key, ...args) {
   let i = 0;
   return TEXTS[language()][key].replace(/%s/g, () => String(args[i++]));
+}
+
+// The viewer's own text for `key`, or undefined when it has none.
+export function maybeText(key) {
+  return TEXTS[language()][key];
 }

@@ -13,6 +13,8 @@ import { run } from './scripting.js';
 import { Tweens } from './tween.js';
 import { easing } from './easing.js';
 import { TextBox, createLogo } from './elements.js';
+import { createControls } from './controls.js';
+import { createContextMenu } from './contextmenu.js';
 import { Hotspot } from './hotspots.js';
 import { embeddedCorners } from './embedded.js';
 import { Sound } from './audio.js';
@@ -79,7 +81,8 @@ export class Viewer {
     }
     this.fire('oninit');
     this.fire('onscenechanged');
-    for (const element of this.elements.values()) if (element.oninit) element.oninit();
+    for (const element of [...this.elements.values()]) if (element.oninit) element.oninit();
+    for (const element of [...this.elements.values()]) if (element.onscenechanged) element.onscenechanged();
     if (this.autoplay.status === 'on') this.startAutoPlay();
     this.requestFrame();
   }
@@ -170,6 +173,8 @@ export class Viewer {
       this.sound = new Sound(this, audio);
       this.elements.set(audio.id || 'gAudio', this.sound);
     }
+    createControls(this);
+    createContextMenu(this);
   }
 
   addElement(element) {
