@@ -215,14 +215,11 @@ constexpr char HOTSPOTS_JSON[] = "["
 
 } // namespace
 
-class tst_ExportApplet : public QObject
+class tst_ExportApplet : public QObject, BenchUser
 {
     Q_OBJECT
 
-    ExportAppletFn m_entry = nullptr;
-    std::unique_ptr<QTemporaryDir> m_root;
-    std::unique_ptr<HostBuilder> m_host;
-    QString m_out, m_viewerScript, m_savedCurrentPath;
+    QString m_viewerScript, m_savedCurrentPath;
     QStringList m_unexpected;
 
     // The entry point with a fresh in/out word holding `in`; the word afterwards.
@@ -271,34 +268,22 @@ class tst_ExportApplet : public QObject
 private slots:
     void initTestCase()
     {
-        // Loaded once and never unloaded: the library keeps its state for the life of the process.
-        static QLibrary library(VANTORA_EXPORT_LIBRARY);
-        m_entry = reinterpret_cast<ExportAppletFn>(library.resolve("export_applet"));
-        QVERIFY2(m_entry, qPrintable(library.errorString()));
+        QString error;
+        m_entry = loadExportEntry(VANTORA_EXPORT_LIBRARY, &error);
+        QVERIFY2(m_entry, qPrintable(error));
     }
 
-    // A non-interactive export of a 4000 x 2000 equirectangular full sphere into out/, the viewer
-    // script in install/VantoraViewer/, every test host operation installed.
+    // A non-interactive export of the bench's full sphere into out/, every test host operation
+    // installed.
     void init()
     {
         g_log = HostLog();
         m_savedCurrentPath = QDir::currentPath();
-        m_root = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_root->isValid());
-        const QString root = m_root->path() + '/';
-        m_out = root + "out/";
-        m_viewerScript = root + "install/VantoraViewer/vantoViewer.js";
-        QVERIFY(QDir().mkpath(m_out) && QDir().mkpath(root + "install/VantoraViewer"));
-        QVERIFY(QDir().mkpath(root + "settings") && writeFileBytes(m_viewerScript, VIEWER_SCRIPT));
-
-        m_host = std::make_unique<HostBuilder>();
-        m_host->put(at::DocumentId, std::uint64_t(1), at::ImageWidth, u32(4000), at::ImageHeight,
-            u32(2000), at::LinearVertical, u32(1), at::NonInteractive, u32(1), at::PageWidth, 800,
-            at::PageHeight, 600, at::StartPan, -180.0, at::EndPan, 180.0, at::UpperEdge, -90.0,
-            at::LowerEdge, 90.0, at::Start, &hostStart, at::Close, &hostClose, at::WriteTiles,
-            &writeTiles, at::ExportResource, &exportResource);
-        m_host->putString(at::InstallFolder, root + "install/");
-        m_host->putString(at::SettingsFolder, root + "settings/");
+        QVERIFY(newBench(VIEWER_SCRIPT, 1));
+        m_viewerScript = m_bench->viewerScript;
+        m_host->put(at::LinearVertical, u32(1), at::NonInteractive, u32(1), at::Start, &hostStart,
+            at::Close, &hostClose, at::WriteTiles, &writeTiles, at::ExportResource,
+            &exportResource);
     }
 
     void cleanup()
@@ -589,8 +574,7 @@ private slots:
 
     void hotspots()
     {
-        const QString infoFile = m_root->path() + "/info.png",
-                      linkFile = m_root->path() + "/link.png";
+        const QString infoFile = m_bench->root + "info.png", linkFile = m_bench->root + "link.png";
         QVERIFY(writeFileBytes(infoFile, QByteArray(700, 'i'))
             && writeFileBytes(linkFile, QByteArray(900, 'l')));
         const std::u16string infoPath = infoFile.toStdU16String(),

@@ -12,6 +12,23 @@ export const CHROMIUM_ARGS = [
   '--lang=en-US',
 ];
 
+// The page size the tests' viewers are laid out at.
+export const W = 800;
+export const H = 600;
+
+// The arguments every browser test takes, or the usage line and exit code 2.
+export function testArgs(script) {
+  const [tool, work, modules] = process.argv.slice(2);
+  if (!tool || !work || !modules) {
+    console.error(`usage: node ${script} TOOL WORKDIR NODE_MODULES`);
+    process.exit(2);
+  }
+  return { tool, work, modules };
+}
+
+// Runs `body` in the page as a function of the viewer `v` and the argument `a`; its result.
+export const viewerCall = (page, body, arg) => page.evaluate(({ b, a }) => new Function('v', 'a', b)(vantoViewer.get('vantoViewerID'), a), { b: body, a: arg });
+
 export async function launchBrowser(modules, viewport = { width: 1000, height: 700 }) {
   const { chromium } = createRequire(path.join(modules, 'noop.js'))('playwright-core');
   const profile = fs.mkdtempSync(path.join(os.tmpdir(), 'vanto-chromium-'));

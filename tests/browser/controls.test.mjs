@@ -9,17 +9,10 @@ import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
 import { exportPage, writeGradient, writeTone, readParams } from './fixtures.mjs';
-import { launchBrowser, openViewer } from './browser.mjs';
+import { H, W, launchBrowser, openViewer, testArgs, viewerCall as call } from './browser.mjs';
 import { startServer } from './server.mjs';
 
-const [tool, work, modules] = process.argv.slice(2);
-if (!tool || !work || !modules) {
-  console.error('usage: node controls.test.mjs TOOL WORKDIR NODE_MODULES');
-  process.exit(2);
-}
-
-const W = 800;
-const H = 600;
+const { tool, work, modules } = testArgs('controls.test.mjs');
 const DESIGNS = 8;
 const POSITIONS = ['centred', 'full width', 'left', 'right'];
 
@@ -54,8 +47,6 @@ function buildPages() {
   }
   return pages;
 }
-
-const call = (page, body, arg) => page.evaluate(({ b, a }) => new Function('v', 'a', b)(vantoViewer.get('vantoViewerID'), a), { b: body, a: arg });
 
 // The toolbar's box, the placed buttons' ids from left to right, and the unpainted faces.
 const INSPECT = `
@@ -119,6 +110,14 @@ function expectedOrder(params) {
     .sort((x, y) => rank[x.align] - rank[y.align] || x.index - y.index).map((b) => b.id || `type${b.type}`);
 }
 
+// Where each position puts the toolbar's box in the viewer's, within a pixel; in POSITIONS' order.
+const PLACED = [
+  (root, box) => Math.abs((box.left + box.right) / 2 - (root.left + root.right) / 2) <= 1,
+  (root, box) => Math.abs(box.width - root.width) <= 1,
+  (root, box) => Math.abs(box.left - root.left) <= 1,
+  (root, box) => Math.abs(box.right - root.right) <= 1,
+];
+
 async function checkLayout(page, { design, position }, params) {
   const what = `design ${design}, ${POSITIONS[position]}`;
   const got = await call(page, INSPECT);
@@ -136,10 +135,7 @@ async function checkLayout(page, { design, position }, params) {
   const { root, box } = got;
   const yoff = [].concat(params.buttonBox)[0].yoff;
   assert.ok(Math.abs(root.bottom - yoff - box.bottom) <= 1, `${what}: toolbar bottom ${box.bottom}, expected ${root.bottom - yoff}`);
-  if (position === 1) assert.ok(Math.abs(box.width - root.width) <= 1, `${what}: not full width`);
-  if (position === 0) assert.ok(Math.abs((box.left + box.right) / 2 - (root.left + root.right) / 2) <= 1, `${what}: not centred`);
-  if (position === 2) assert.ok(Math.abs(box.left - root.left) <= 1, `${what}: not at the left`);
-  if (position === 3) assert.ok(Math.abs(box.right - root.right) <= 1, `${what}: not at the right`);
+  assert.ok(PLACED[position](root, box), `${what}: toolbar not placed ${POSITIONS[position]}`);
 }
 
 const clickOn = (page, id) => page.locator(`#vantoViewerID .vanto-button[data-id="${id}"]`).click();
@@ -151,6 +147,17 @@ async function clickAt(page, body) {
 const view = (page) => call(page, 'return v.getView();');
 const until = (page, body) => page.waitForFunction(
   (b) => new Function('v', b)(vantoViewer.get('vantoViewerID')), body, { timeout: 5000 });
+
+// Buttons that switch something: each click, then the state it must lead to (face included).
+const AUDIO = "const b = v.get('audiobutton'); const on = (v.get('gAudio')||v.get('lAudio')).isPlaying();";
+const TOGGLES = [
+  ['playbutton', "return v.isPlaying() && v.get('playbutton').skin.includes('128,0');",
+    "return !v.isPlaying() && v.get('playbutton').skin.includes('64,0');"],
+  ['infobutton', 'return !!v.currentMBId;', 'return !v.currentMBId;'],
+  ['hotspotsButton', 'return !v.hotspotsVisible;', 'return v.hotspotsVisible;'],
+  ['audiobutton', `${AUDIO} return on && b.skin === b.playskin;`, `${AUDIO} return !on && b.skin === b.pauseskin;`],
+  ['fullscreenButton', 'return v.isFullscreen();', 'return !v.isFullscreen();'],
+];
 
 // A click on every button, each with its effect.
 async function checkClicks(page, design) {
@@ -165,35 +172,17 @@ async function checkClicks(page, design) {
     assert.ok(test(before, after), `${what}: type ${type} button: ${JSON.stringify(before)} -> ${JSON.stringify(after)}`);
     before = after;
   }
-  await clickOn(page, 'playbutton');
-  await until(page, "return v.isPlaying() && v.get('playbutton').skin.includes('128,0');");
-  await clickOn(page, 'playbutton');
-  await until(page, "return !v.isPlaying() && v.get('playbutton').skin.includes('64,0');");
-
-  await clickOn(page, 'infobutton');
-  await until(page, 'return !!v.currentMBId;');
-  await clickOn(page, 'infobutton');
-  await until(page, 'return !v.currentMBId;');
+  for (const [id, ...states] of TOGGLES) {
+    for (const state of states) {
+      await clickOn(page, id);
+      await until(page, state);
+    }
+  }
   // The hotspot opens its message box, a click on the box closes it.
   await clickAt(page, 'const r = v.hotspots()[0].node.getBoundingClientRect();');
   await until(page, "return /^hsinfo/.test(v.currentMBId || '');");
   await clickAt(page, 'const r = v.get(v.currentMBId).node.getBoundingClientRect();');
   await until(page, 'return !v.currentMBId;');
-
-  await clickOn(page, 'hotspotsButton');
-  await until(page, 'return !v.hotspotsVisible;');
-  await clickOn(page, 'hotspotsButton');
-  await until(page, 'return v.hotspotsVisible;');
-
-  await clickOn(page, 'audiobutton');
-  await until(page, "const b = v.get('audiobutton'); return (v.get('gAudio')||v.get('lAudio')).isPlaying() && b.skin === b.playskin;");
-  await clickOn(page, 'audiobutton');
-  await until(page, "const b = v.get('audiobutton'); return !(v.get('gAudio')||v.get('lAudio')).isPlaying() && b.skin === b.pauseskin;");
-
-  await clickOn(page, 'fullscreenButton');
-  await until(page, 'return v.isFullscreen();');
-  await clickOn(page, 'fullscreenButton');
-  await until(page, 'return !v.isFullscreen();');
 
   // VR comes with a later step: its button is there and its handler runs.
   await clickOn(page, 'vrButton');

@@ -8,16 +8,9 @@ import fs from 'node:fs';
 import { pathToFileURL } from 'node:url';
 import { buildFixtures, readParams } from './fixtures.mjs';
 import { startServer } from './server.mjs';
-import { launchBrowser, openViewer, pixels, waitReady } from './browser.mjs';
+import { H, W, launchBrowser, openViewer, pixels, testArgs, viewerCall, waitReady } from './browser.mjs';
 
-const [tool, work, modules] = process.argv.slice(2);
-if (!tool || !work || !modules) {
-  console.error('usage: node viewer.test.mjs TOOL WORKDIR NODE_MODULES');
-  process.exit(2);
-}
-
-const W = 800;
-const H = 600;
+const { tool, work, modules } = testArgs('viewer.test.mjs');
 const CENTRE = [W / 2, H / 2];
 
 // Pan and tilt that a gradient colour encodes, for a picture of hextent x vextent degrees.
@@ -29,10 +22,15 @@ function near(actual, expected, tolerance, what) {
   assert.ok(Math.abs(actual - expected) <= tolerance, `${what}: ${actual.toFixed(2)} is not ${expected} ± ${tolerance}`);
 }
 
-const viewerCall = (page, fn, arg) => page.evaluate(({ body, a }) => {
-  const v = vantoViewer.get('vantoViewerID');
-  return new Function('v', 'a', body)(v, a);
-}, { body: fn, a: arg });
+// Red and green of `actual` within `tolerance` of `expected`'s.
+function nearColour(actual, expected, tolerance, what) {
+  near(actual[0], expected[0], tolerance, `red ${what}`);
+  near(actual[1], expected[1], tolerance, `green ${what}`);
+}
+
+const getView = (page) => viewerCall(page, 'return v.getView();');
+const viewerBox = (page) => page.locator('#vantoViewerID').boundingBox();
+const frames = (page, n) => page.evaluate((k) => new Promise((r) => { const f = () => (--k ? requestAnimationFrame(f) : r()); f(); }), n);
 
 // Waits until the viewer has drawn a complete frame of its current view.
 const settled = (page) => page.evaluate(() => vantoViewer.get('vantoViewerID').settled().then(() => true));
@@ -68,18 +66,18 @@ const CHECKS = {
     near(view.tilt, 30, 3, 'tilt after setView');
   },
   async keyboard({ page }) {
-    const before = await viewerCall(page, 'return v.getView();');
+    const before = await getView(page);
     await page.locator('.vanto-root').focus();
     await page.keyboard.down('ArrowRight');
     await page.waitForFunction((p) => vantoViewer.get('vantoViewerID').getView().pan > p + 5, before.pan);
     await page.keyboard.up('ArrowRight');
     await page.keyboard.press('+');
-    const after = await viewerCall(page, 'return v.getView();');
+    const after = await getView(page);
     assert.ok(after.hfov < before.hfov, `+ did not zoom in (${before.hfov} to ${after.hfov})`);
   },
   // "drag": the picture follows the pointer, so the colour first under it ends up under it again.
   async drag({ page }) {
-    const box = await page.locator('#vantoViewerID').boundingBox();
+    const box = await viewerBox(page);
     const from = [W * 0.4, H * 0.5];
     const to = [W * 0.6, H * 0.55];
     const [before] = await pixels(page, [from]);
@@ -89,21 +87,20 @@ const CHECKS = {
     await page.mouse.up();
     await settled(page);
     const [after] = await pixels(page, [to]);
-    near(after[0], before[0], 6, 'red under the dragged point');
-    near(after[1], before[1], 6, 'green under the dragged point');
+    nearColour(after, before, 6, 'under the dragged point');
   },
   // "move": the view turns while the button is held away from where it was pressed, and stops.
   async moveMode({ page }) {
-    const box = await page.locator('#vantoViewerID').boundingBox();
-    const start = (await viewerCall(page, 'return v.getView();')).pan;
+    const box = await viewerBox(page);
+    const start = (await getView(page)).pan;
     await page.mouse.move(box.x + W / 2, box.y + H / 2);
     await page.mouse.down();
     await page.mouse.move(box.x + W / 2 + 150, box.y + H / 2, { steps: 3 });
     await page.waitForFunction((p) => vantoViewer.get('vantoViewerID').getView().pan > p + 10, start);
     await page.mouse.up();
-    const stopped = (await viewerCall(page, 'return v.getView();')).pan;
-    await page.evaluate(() => new Promise((r) => { let n = 10; const f = () => (--n ? requestAnimationFrame(f) : r()); f(); }));
-    near((await viewerCall(page, 'return v.getView();')).pan, stopped, 0.01, 'pan after release');
+    const stopped = (await getView(page)).pan;
+    await frames(page, 10);
+    near((await getView(page)).pan, stopped, 0.01, 'pan after release');
   },
   // The gyroscope: orientation events make it available; enabled, it turns the view with the device.
   async gyroscope({ page }) {
@@ -115,32 +112,31 @@ const CHECKS = {
     assert.equal(await viewerCall(page, 'return v.gyroscopeEnabled();'), true);
     await orient(0, 90, 0);
     await orient(-30, 120, 0);
-    const view = await viewerCall(page, 'return v.getView();');
+    const view = await getView(page);
     near(view.pan, 130, 0.01, 'pan turned with the device');
     near(view.tilt, 30, 0.01, 'tilt raised with the device');
     await viewerCall(page, 'v.enableGyroscope(false);');
     await orient(0, 90, 0);
-    near((await viewerCall(page, 'return v.getView();')).pan, 130, 0.01, 'pan after the gyroscope is off');
+    near((await getView(page)).pan, 130, 0.01, 'pan after the gyroscope is off');
   },
   // The wheel zooms towards the pointer: the colour under it stays, the view narrows.
   async wheelZoom({ page }) {
-    const box = await page.locator('#vantoViewerID').boundingBox();
+    const box = await viewerBox(page);
     const at = [W * 0.3, H * 0.4];
     const [before] = await pixels(page, [at]);
-    const hfov = (await viewerCall(page, 'return v.getView();')).hfov;
+    const hfov = (await getView(page)).hfov;
     await page.mouse.move(box.x + at[0], box.y + at[1]);
     await page.mouse.wheel(0, -300);
     await page.waitForFunction((h) => vantoViewer.get('vantoViewerID').getView().hfov < h * 0.9, hfov);
     await settled(page);
     const [after] = await pixels(page, [at]);
-    near(after[0], before[0], 4, 'red under the pointer');
-    near(after[1], before[1], 4, 'green under the pointer');
+    nearColour(after, before, 4, 'under the pointer');
   },
   // Every hotspot sits where its position says: the start view's rectilinear projection of its
   // pan and tilt, or on a flat picture fitted to the window, its fraction of the picture.
   async hotspotPlaces({ page, params }) {
     await hotspotsLoaded(page);
-    const box = await page.locator('#vantoViewerID').boundingBox();
+    const box = await viewerBox(page);
     const spots = params.node.hotspot;
     const nodes = page.locator('.vanto-hotspot');
     assert.equal(await nodes.count(), spots.length, 'hotspot count');
@@ -174,7 +170,7 @@ const CHECKS = {
     for (const [pan, tilt] of [[-500, 80], [500, -80], [0, 0]]) {
       await viewerCall(page, 'v.setView(a[0], a[1], 140);', [pan, tilt]);
       await settled(page);
-      const view = await viewerCall(page, 'return v.getView();');
+      const view = await getView(page);
       assert.ok(view.pan - view.hfov / 2 >= cam.minpan - 0.01 && view.pan + view.hfov / 2 <= cam.maxpan + 0.01,
         `pan ${view.pan} with hfov ${view.hfov} leaves ${cam.minpan}..${cam.maxpan}`);
       const corners = await pixels(page, [[2, 2], [W - 3, 2], [2, H - 3], [W - 3, H - 3]]);
@@ -184,8 +180,7 @@ const CHECKS = {
   async fitsWindow({ page }) {
     // 3000 x 2000 in 800 x 600: 800 x 533 in the middle, bars above and below.
     const [centre, bar, topLeft, bottomRight] = await pixels(page, [CENTRE, [W / 2, 10], [4, 38], [W - 5, H - 38]]);
-    near(centre[0], 128, 6, 'red at the centre');
-    near(centre[1], 128, 6, 'green at the centre');
+    nearColour(centre, [128, 128], 6, 'at the centre');
     assert.ok(bar[0] + bar[1] + bar[2] < 20, `the bar above the picture is not black (${bar})`);
     assert.ok(topLeft[0] < 12 && topLeft[1] < 12, `top left corner of the picture (${topLeft})`);
     assert.ok(bottomRight[0] > 243 && bottomRight[1] > 243, `bottom right corner of the picture (${bottomRight})`);
@@ -223,16 +218,16 @@ const CHECKS = {
   },
   async autoplay({ page }) {
     assert.equal(await viewerCall(page, 'return v.isPlaying();'), true);
-    const start = (await viewerCall(page, 'return v.getView();')).pan;
+    const start = (await getView(page)).pan;
     await page.waitForFunction((p) => Math.abs(vantoViewer.get('vantoViewerID').getView().pan - p) > 3, start);
-    const box = await page.locator('#vantoViewerID').boundingBox();
+    const box = await viewerBox(page);
     await page.mouse.move(box.x + W / 2, box.y + H / 2);
     await page.mouse.down();
     await page.mouse.up();
     assert.equal(await viewerCall(page, 'return v.isPlaying();'), false);
-    const stopped = (await viewerCall(page, 'return v.getView();')).pan;
-    await page.evaluate(() => new Promise((r) => { let n = 20; const f = () => (--n ? requestAnimationFrame(f) : r()); f(); }));
-    near((await viewerCall(page, 'return v.getView();')).pan, stopped, 0.01, 'pan after input');
+    const stopped = (await getView(page)).pan;
+    await frames(page, 20);
+    near((await getView(page)).pan, stopped, 0.01, 'pan after input');
   },
   async noticeCloses({ page, via }) {
     if (via !== 'file') return;
@@ -256,13 +251,13 @@ const CHECKS = {
     assert.match(reported, /onscenechanged handler of "mainEvents" failed/, 'a throwing handler is reported');
     await viewerCall(page, 'v.setView(30, 0, 80);');
     await settled(page);
-    near((await viewerCall(page, 'return v.getView();')).pan, 30, 0.01, 'pan after a throwing handler');
+    near((await getView(page)).pan, 30, 0.01, 'pan after a throwing handler');
   },
   // An embedded bitmap 20 degrees wide, 15 degrees right of the view's centre on the horizon,
   // spans the screen columns of pan 5 to 25 degrees right of the centre.
   async embedded({ page, params }) {
     await hotspotsLoaded(page);
-    const box = await page.locator('#vantoViewerID').boundingBox();
+    const box = await viewerBox(page);
     const img = await page.locator('.vanto-hotspot img[alt="To the garden"]').boundingBox();
     const k = W / 2 / Math.tan((params.node.view.hfov * Math.PI) / 360);
     near(img.x - box.x, W / 2 + k * Math.tan((5 * Math.PI) / 180), 2, 'left edge');
@@ -270,7 +265,7 @@ const CHECKS = {
   },
   // The lens flare's glow is centred on its pan and tilt.
   async lensFlare({ page, params }) {
-    const box = await page.locator('#vantoViewerID').boundingBox();
+    const box = await viewerBox(page);
     const glow = await page.locator('.vanto-flare').boundingBox();
     const flare = params.node.lensflare[0];
     const k = W / 2 / Math.tan((params.node.view.hfov * Math.PI) / 360);
@@ -305,7 +300,7 @@ const CHECKS = {
     const logo = page.locator('.vanto-logo');
     assert.equal(await logo.getAttribute('href'), params.logo.href);
     assert.ok(await logo.locator('img').evaluate((img) => img.complete && img.naturalWidth > 0), 'logo picture not loaded');
-    const box = await page.locator('#vantoViewerID').boundingBox();
+    const box = await viewerBox(page);
     await page.mouse.click(box.x + W / 2, box.y + H / 2);
     await page.waitForFunction(() => vantoViewer.get('vantoViewerID').get('lAudio').isPlaying());
   },

@@ -1,5 +1,10 @@
 #include "hostbuilder.h"
 
+#include "textcompare.h"
+
+#include <QDir>
+#include <QLibrary>
+
 #include <algorithm>
 #include <utility>
 
@@ -47,6 +52,29 @@ QString HostBuilder::hostBytesChanged(unsigned char pattern) const
         }
     }
     return QString();
+}
+
+ExportAppletFn loadExportEntry(const char *path, QString *error)
+{
+    static QLibrary library(QString::fromLocal8Bit(path));
+    const auto entry = reinterpret_cast<ExportAppletFn>(library.resolve("export_applet"));
+    if (!entry)
+        *error = library.errorString();
+    return entry;
+}
+
+ExportBench::ExportBench(const QByteArray &script, std::uint64_t documentId)
+{
+    root = m_root.path() + '/';
+    out = root + "out/";
+    viewerScript = root + "install/VantoraViewer/vantoViewer.js";
+    m_valid = m_root.isValid() && QDir().mkpath(out) && QDir().mkpath(root + "settings")
+        && QDir().mkpath(root + "install/VantoraViewer") && writeFileBytes(viewerScript, script);
+    m_host->put(at::DocumentId, documentId, at::ImageWidth, std::uint32_t(4000), at::ImageHeight,
+        std::uint32_t(2000), at::PageWidth, 800, at::PageHeight, 600, at::StartPan, -180.0,
+        at::EndPan, 180.0, at::UpperEdge, -90.0, at::LowerEdge, 90.0);
+    m_host->putString(at::InstallFolder, root + "install/");
+    m_host->putString(at::SettingsFolder, root + "settings/");
 }
 
 } // namespace vantora::test

@@ -5,10 +5,12 @@
 #include <vantora/host.h>
 
 #include <QString>
+#include <QTemporaryDir>
 
 #include <cstddef>
 #include <cstring>
 #include <list>
+#include <memory>
 #include <string>
 #include <type_traits>
 
@@ -73,6 +75,48 @@ private:
     char16_t m_path[BufferChars] = {};
     char16_t m_output[BufferChars] = {};
     std::list<std::u16string> m_strings;
+};
+
+// The entry point of the library at `path`, loaded once and never unloaded (it keeps its state
+// for the life of the process); null with the reason in `error`.
+ExportAppletFn loadExportEntry(const char *path, QString *error);
+
+// A temporary folder holding out/, settings/ and install/VantoraViewer/vantoViewer.js, and a host
+// record for a 4000 x 2000 full sphere on an 800 x 600 page that names those folders.
+class ExportBench
+{
+public:
+    ExportBench(const QByteArray &viewerScript, std::uint64_t documentId);
+
+    bool isValid() const { return m_valid; }
+    HostBuilder &host() { return *m_host; }
+
+    QString root, out, viewerScript; // root ends in '/'
+
+private:
+    QTemporaryDir m_root;
+    std::unique_ptr<HostBuilder> m_host = std::make_unique<HostBuilder>();
+    bool m_valid = false;
+};
+
+// What a test of the entry point keeps: the entry, loaded once, and a fresh bench for each case.
+class BenchUser
+{
+protected:
+    ExportAppletFn m_entry = nullptr;
+    std::unique_ptr<ExportBench> m_bench;
+    HostBuilder *m_host = nullptr;
+    QString m_out;
+
+    // A new bench with its host record at m_host and its out/ folder at m_out; false when its
+    // folders could not be made.
+    bool newBench(const QByteArray &viewerScript, std::uint64_t documentId)
+    {
+        m_bench = std::make_unique<ExportBench>(viewerScript, documentId);
+        m_host = &m_bench->host();
+        m_out = m_bench->out;
+        return m_bench->isValid();
+    }
 };
 
 } // namespace vantora::test
