@@ -189,8 +189,8 @@ void tst_Golden::paramsFile()
     compareWithGolden(run.folder() + name, name);
 }
 
-// What the files above show of one design only: the message box of every design and the
-// compass and radar that sit in every design's toolbar, gathered in one file.
+// What the files above show of one design only: the message box of every design, the compass and
+// radar that sit in every design's toolbar and a free-standing radar, gathered in one file.
 void tst_Golden::designPieces()
 {
     QJsonArray designs;
@@ -209,6 +209,10 @@ void tst_Golden::designPieces()
             params::buildMessageBox(
                 design, QStringLiteral("<b>Hafen</b>"), QStringLiteral("info")));
         entry.insert(QStringLiteral("toolbarInstruments"), buttons);
+        // The large and small radar, which the controls files above leave out.
+        settings.OrientationElement = 8 + design % 2;
+        entry.insert(
+            QStringLiteral("radar"), params::buildOrientationElement(actions, design, settings));
         designs.append(entry);
     }
     QTemporaryDir dir;
