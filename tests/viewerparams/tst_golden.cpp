@@ -6,6 +6,8 @@
 
 #include "viewerparams/controlsfile.h"
 #include "viewerparams/design.h"
+#include "viewerparams/infobox.h"
+#include "viewerparams/orientation.h"
 
 #include <QtTest>
 
@@ -75,6 +77,7 @@ private slots:
     void controlsFile();
     void paramsFile_data();
     void paramsFile();
+    void designPieces();
 };
 
 void tst_Golden::controlsFile_data()
@@ -184,6 +187,38 @@ void tst_Golden::paramsFile()
     const QString name = QStringLiteral("params_%1.json").arg(mode);
     params::writeViewerParams(run.input, run.folder(), name, "hafen_controls.js", "g.js");
     compareWithGolden(run.folder() + name, name);
+}
+
+// What the files above show of one design only: the message box of every design, the compass and
+// radar that sit in every design's toolbar and a free-standing radar, gathered in one file.
+void tst_Golden::designPieces()
+{
+    QJsonArray designs;
+    for (int design = 0; design < params::kDesignCount; ++design) {
+        settings::ViewerSettings settings;
+        settings::resetViewerSettings(settings, false);
+        settings.PositionNorth = design % 2 == 0;
+        QJsonArray buttons, actions;
+        for (const int kind : {10, 11}) {
+            settings.OrientationElement = kind;
+            params::appendOrientationToolbarItems(buttons, actions, design, settings);
+        }
+        QJsonObject entry;
+        entry.insert(QStringLiteral("design"), design);
+        entry.insert(QStringLiteral("messageBox"),
+            params::buildMessageBox(
+                design, QStringLiteral("<b>Hafen</b>"), QStringLiteral("info")));
+        entry.insert(QStringLiteral("toolbarInstruments"), buttons);
+        // The large and small radar, which the controls files above leave out.
+        settings.OrientationElement = 8 + design % 2;
+        entry.insert(
+            QStringLiteral("radar"), params::buildOrientationElement(actions, design, settings));
+        designs.append(entry);
+    }
+    QTemporaryDir dir;
+    const QString name = QStringLiteral("design_pieces.json");
+    QVERIFY(test::writeFileBytes(dir.filePath(name), QJsonDocument(designs).toJson()));
+    compareWithGolden(dir.filePath(name), name);
 }
 
 QTEST_GUILESS_MAIN(tst_Golden)

@@ -130,8 +130,8 @@ const char INFO_BOX[] = R"({"id":"infobox","captureMouse":true,"checkHover":true
 constexpr char DESIGN0_TRANSFORM[]
     = " transform-origin : 0% 0% 0px; transform: translate(0px, 0px) translateZ(10000px);";
 
-// The message style and the text wrapper (before the text; "</div>" follows) by TBDesign; null
-// outside the designs. The info box alternates between the global and the local data object.
+// The message style and the text wrapper (before the text; "</div>" follows) for two designs (the
+// golden files hold the others); null outside the designs. The info box alternates between the global and the local data object.
 const struct
 {
     const char *tag;
@@ -142,12 +142,6 @@ const struct
 } DESIGN_ROWS[] = {
     {"design0/global", 0, true, "min-width: 25%; text-shadow: none; line-height: 100%; color:#ffffff; font-family: Arial,Helvetica,Sans-Serif; font-size: 15px; font-weight: 100; text-align:left; box-shadow: 4px 4px 1px 0px rgba(0,0,0,0.33);background: rgba(0,0,0,0.66);", "<div style='padding: 16px;' class='vantoViewerText1'><style>div.vantoViewerText1 a, a:visited {color: #FDB815;} div.vantoViewerText1 a:hover, a:active {color: #EFF517;}</style>"},
     {"design1/local", 1, false, "min-width: 25%; text-shadow: none; line-height: 100%; color:#000; font-family: Arial,Helvetica,Sans-Serif; font-size: 15px; font-weight: 400; text-align:left; border-radius: 3px; border: rgba(0,0,0,0.66) solid 1px; box-shadow: 2px 2px 3px 0px rgba(0,0,0,0.66);background: rgba(255,255,255,0.75);", "<div style='padding: 16px;'>"},
-    {"design2/global", 2, true, "min-width: 25%; text-shadow: none; line-height: 100%; color:#444; font-family: Arial,Helvetica,Sans-Serif; font-size: 15px; font-weight: 100; text-align:left; border: #666 solid 1px; box-shadow: inset 0 2px 3px rgba(255,255,255,0.4), 2px 4px 8px 0px rgba(0,0,0,0.8); border-radius: 5px; background: linear-gradient(#f4f0f2, #b0aa9b);", "<div style='padding: 16px;'>"},
-    {"design3/local", 3, false, "min-width: 25%; text-shadow: none; line-height: 100%; color:#444; font-family: Arial,Helvetica,Sans-Serif; font-size: 15px; font-weight: 100; text-align:left; border: #666 solid 1px; box-shadow: inset 0 2px 3px rgba(255,255,255,0.4), 2px 4px 8px 0px rgba(0,0,0,0.8); border-radius: 5px; background: linear-gradient(#c0baab,#f4f0f2);", "<div style='padding: 16px;'>"},
-    {"design4/global", 4, true, "min-width: 25%; text-shadow: none; line-height: 100%; color:#000; font-family: Arial,Helvetica,Sans-Serif; font-size: 15px; font-weight: 100; text-align:left; border-radius: 3px; border: white solid 2px; box-shadow: 0px 0px 1px 1px rgba(0,0,0,1), inset 0px 0px 1px 1px rgba(0,0,0,1); background-color: rgba(255,255,255,0.6);", "<div style='padding: 16px;'>"},
-    {"design5/local", 5, false, "min-width: 25%; text-shadow: none; line-height: 100%; color:#fff; font-family: Arial,Helvetica,Sans-Serif; font-size: 15px; font-weight: 100; text-align:left; border: rgba(70,70,70,0.6) solid 1px; box-shadow: inset 0 2px 3px rgba(255,255,255,0.4), 2px 4px 8px 0px rgba(0,0,0,0.8); border-radius: 5px; background: linear-gradient( #575c65 0%,#575c65 21%,#404c4e 31%,#0e222b 63%,#102129 100%);", "<div style='padding: 16px;' class='vantoViewerText6'><style>div.vantoViewerText6 a, a:visited {color: #FFF;} div.vantoViewerText6 a:hover, a:active {color: #FFF;}</style>"},
-    {"design6/global", 6, true, "min-width: 25%; text-shadow: none; line-height: 100%; color:#000; font-family: Arial,Helvetica,Sans-Serif; font-size: 15px; font-weight: 100; text-align:left; box-shadow: #05306B 2px 2px 1px 0px; background-color: #0F4FA8;", "<div style='padding: 16px;' class='vantoViewerText7'><style>div.vantoViewerText7 a, a:visited {color: #FDB815;} div.vantoViewerText7 a:hover, a:active {color: #EFF517;}</style>"},
-    {"design7/local", 7, false, "min-width: 25%; text-shadow: none; line-height: 100%; color:#ffffff; font-family: Arial,Helvetica,Sans-Serif; font-size: 15px; font-weight: 100; text-align:left; border-radius: 10px; border: white solid 1px; box-shadow: 0px 0px 8px 6px rgba(255,255,255,0.5);background: rgba(0,0,0,0.66);", "<div style='padding: 16px;' class='vantoViewerText8'><style>div.vantoViewerText8 a, a:visited {color: #FDB815;} div.vantoViewerText8 a:hover, a:active {color: #EFF517;}</style>"},
     {"design8/global", 8, true, nullptr, nullptr},
     {"design9/local", 9, false, nullptr, nullptr},
 };
