@@ -125,6 +125,15 @@ async function checkInstrument(page, p) {
       assert.ok(turn !== null && angleGap(turn, -d) < 0.5, `${what}: turned ${turn} for pan north ${d >= 0 ? '+' : ''}${d}`);
     }
   }
+  if (p.kind === 1) {
+    // At two device pixels per CSS pixel both layers are painted at twice the size, with ink.
+    const cdp = await page.context().newCDPSession(page);
+    await cdp.send('Emulation.setDeviceMetricsOverride', { width: W, height: H, deviceScaleFactor: 2, mobile: false });
+    const sharp = await call(page, "const c = v.get('compass'); c.updateSkins(); return [c.face.width, c.layer.width];");
+    assert.deepEqual(sharp, [2 * SIZES[1], 2 * SIZES[1]], `${what}: layers at a pixel ratio of 2`);
+    const inked = await call(page, INSPECT);
+    assert.ok(inked.face > 3 * got.face && inked.layer > 3 * got.layer, `${what}: ink at 2x ${inked.face}, ${inked.layer}`);
+  }
   if (p.north) {
     await page.locator('#vantoViewerID [data-id="compass"]').click();
     await until(page, `return Math.abs(((v.getView().pan - ${NORTH}) % 360 + 540) % 360 - 180) < 0.5 && !v.move;`);
@@ -160,6 +169,56 @@ async function checkVR(page) {
   await call(page, 'return v.settled();');
   const [c, d] = await pixels(page, mid);
   assert.ok(Math.abs(c[0] - d[0]) > 15, `after VR: left ${c} and right ${d} do not differ`);
+}
+
+// A WebXR headset, played by the test: the viewer draws both eyes into the session's framebuffer,
+// looking where the view looked and turning with the headset.
+const XR_SETUP = `
+  const gl = v.renderer.gl;
+  gl.makeXRCompatible = () => Promise.resolve();
+  const texture = gl.createTexture();
+  gl.bindTexture(gl.TEXTURE_2D, texture);
+  gl.texImage2D(gl.TEXTURE_2D, 0, gl.RGBA, 400, 200, 0, gl.RGBA, gl.UNSIGNED_BYTE, null);
+  const framebuffer = gl.createFramebuffer();
+  gl.bindFramebuffer(gl.FRAMEBUFFER, framebuffer);
+  gl.framebufferTexture2D(gl.FRAMEBUFFER, gl.COLOR_ATTACHMENT0, gl.TEXTURE_2D, texture, 0);
+  gl.bindFramebuffer(gl.FRAMEBUFFER, null);
+  const layer = { framebuffer, framebufferWidth: 400, framebufferHeight: 200,
+    getViewport: (view) => ({ x: view.eye === 'left' ? 0 : 200, y: 0, width: 200, height: 200 }) };
+  window.XRWebGLLayer = function XRWebGLLayer() { return layer; };
+  const listeners = {};
+  const session = { addEventListener: (type, f) => { listeners[type] = f; }, updateRenderState: () => Promise.resolve(),
+    requestReferenceSpace: () => Promise.resolve({}), requestAnimationFrame: (f) => { window.xrFrame = f; },
+    end: () => { listeners.end(); return Promise.resolve(); } };
+  Object.defineProperty(navigator, 'xr', { configurable: true, value: { requestSession: () => Promise.resolve(session) } });
+  v.xrSupported = true;
+  // Draws a frame with the headset turned by the quaternion q; the centre pixels of both eyes.
+  window.xrDraw = (q) => {
+    const views = ['left', 'right'].map((eye) => ({ eye, transform: { orientation: q }, projectionMatrix: [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, -1, -1, 0, 0, -0.2, 0] }));
+    window.xrFrame(0, { getViewerPose: () => ({ views }) });
+    gl.bindFramebuffer(gl.FRAMEBUFFER, framebuffer);
+    const out = new Uint8Array(8);
+    gl.readPixels(100, 100, 1, 1, gl.RGBA, gl.UNSIGNED_BYTE, out.subarray(0, 4));
+    gl.readPixels(300, 100, 1, 1, gl.RGBA, gl.UNSIGNED_BYTE, out.subarray(4));
+    gl.bindFramebuffer(gl.FRAMEBUFFER, null);
+    return [Array.from(out.slice(0, 3)), Array.from(out.slice(4, 7))];
+  };
+`;
+
+async function checkXR(page) {
+  await call(page, 'v.setView(100, 0, 90); return v.settled();');
+  await call(page, XR_SETUP);
+  await call(page, 'v.enterVRMode();');
+  await until(page, "return v.isVRModeEnabled() && !!window.xrFrame && !v.get('toolbar').visible && v.get('leftStereoButton').visible;");
+  const red = (pan) => (pan / 360) * 255;
+  const ahead = await page.evaluate(() => window.xrDraw({ x: 0, y: 0, z: 0, w: 1 }));
+  // Turned 90 degrees to the right (about the vertical axis, which points up in WebXR).
+  const right = await page.evaluate(() => window.xrDraw({ x: 0, y: -Math.SQRT1_2, z: 0, w: Math.SQRT1_2 }));
+  for (const [what, eyes, pan] of [['ahead', ahead, 100], ['turned right', right, 190]]) {
+    for (const c of eyes) assert.ok(Math.abs(c[0] - red(pan)) <= 6 && Math.abs(c[1] - 128) <= 6, `WebXR ${what}: ${c}, expected red ${red(pan)}`);
+  }
+  await call(page, 'v.exitVRMode();');
+  await until(page, "return !v.isVRModeEnabled() && v.get('toolbar').visible;");
 }
 
 // Tab walks every shown button left to right with a ring and a name, then the compass.
@@ -280,6 +339,7 @@ async function main() {
     }
     for (const name of ['vr', 'intro']) handlerTexts(path.join(work, name)).forEach((t) => texts.add(t));
     await visit('VR split screen', fromServer('vr'), checkVR);
+    await visit('VR in a WebXR headset', fromServer('vr'), checkXR);
     await visit('keyboard and Escape', fromServer('vr'), checkKeyboard);
     await visit('design 5 gradients', fromDisk('vr'), checkGradients);
     await visit('gyroscope permission and gamepad', fromServer('vr'), checkDevices);

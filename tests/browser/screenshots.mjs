@@ -47,14 +47,14 @@ await shoot('shots/hall.html', 'viewer-tour.png', async (p) => {
   await p.locator('.vanto-hotspot').last().hover();
 });
 // The compass (large, in the corner, design 8) and the radar (large, at the right edge, design 5),
-// the view turned a little east of north.
+// north where the sample's N stands, the view turned a little east of it.
 for (const [name, lines] of [['compass', ['TBDesign=7', 'OrientationElement=1', 'OrientationElementPosition=0']],
   ['radar', ['TBDesign=4', 'OrientationElement=8', 'OrientationElementPosition=2']]]) {
   const preset = path.join(work, `src/${name}.ini`);
   fs.writeFileSync(preset, ['[Toolbar]', lines[0], '[Applet]', 'AddOrientation=1', 'PositionNorth=1', ...lines.slice(1),
     'ShowWebGLWarning=0', ''].join('\r\n'));
-  exportPage(tool, [hall, '--settings', preset, '--location', '48.14,11.58,150', '-o', path.join(work, `${name}/${name}.html`)]);
-  await shoot(`${name}/${name}.html`, `viewer-${name}.png`, (p) => p.evaluate(() => vantoViewer.get('vantoViewerID').setView(185, 0, 80)));
+  exportPage(tool, [hall, '--settings', preset, '--location', '48.14,11.58,180', '-o', path.join(work, `${name}/${name}.html`)]);
+  await shoot(`${name}/${name}.html`, `viewer-${name}.png`, (p) => p.evaluate(() => vantoViewer.get('vantoViewerID').setView(215, 0, 80)));
 }
 // The eight toolbar designs on the sample, every button switched on: the lower edge of each page,
 // stacked into one sheet.
