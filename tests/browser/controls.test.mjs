@@ -8,7 +8,7 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
-import { exportPage, writeGradient, writeTone, readParams } from './fixtures.mjs';
+import { exportPage, handlerTexts, writeGradient, writeTone, readParams } from './fixtures.mjs';
 import { H, W, launchBrowser, openViewer, testArgs, viewerCall as call } from './browser.mjs';
 import { startServer } from './server.mjs';
 
@@ -291,15 +291,6 @@ async function checkGerman(context, dir) {
 // Texts that only leaving the page runs (onexit): they come with the viewer's tour. Every other
 // text must run.
 const PENDING = [/this\.viewer\.gyroWasEnabled = this\.viewer\.gyroAvailable&&/];
-
-function handlerTexts(dir) {
-  const texts = new Set();
-  const visit = (value) => {
-    if (typeof value === 'string') { if (/^\s*function\s*\(/.test(value)) texts.add(value); } else if (value && typeof value === 'object') Object.values(value).forEach(visit);
-  };
-  for (const file of fs.readdirSync(dir).filter((f) => /\.json$/.test(f))) visit(readParams(path.join(dir, file)));
-  return texts;
-}
 
 async function main() {
   const started = Date.now();

@@ -32,6 +32,16 @@ export function readParams(file) {
   return JSON.parse(text.slice(text.indexOf('=') + 1)).vantoraViewer;
 }
 
+// The handler and action texts (every string that is a function text) of the viewer files in `dir`.
+export function handlerTexts(dir) {
+  const texts = new Set();
+  const visit = (value) => {
+    if (typeof value === 'string') { if (/^\s*function\s*\(/.test(value)) texts.add(value); } else if (value && typeof value === 'object') Object.values(value).forEach(visit);
+  };
+  for (const file of fs.readdirSync(dir).filter((f) => /\.json$/.test(f))) visit(readParams(path.join(dir, file)));
+  return texts;
+}
+
 // A short sine tone as 8-bit mono WAV.
 export function writeTone(file, seconds = 0.5, rate = 8000) {
   const samples = Math.round(seconds * rate);

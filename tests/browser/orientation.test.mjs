@@ -9,7 +9,7 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
-import { exportPage, writeGradient, readParams } from './fixtures.mjs';
+import { exportPage, handlerTexts, writeGradient, readParams } from './fixtures.mjs';
 import { H, W, launchBrowser, openViewer, pixels, testArgs, viewerCall as call } from './browser.mjs';
 import { startServer } from './server.mjs';
 
@@ -280,15 +280,6 @@ async function checkIntro(page, what, hfov) {
   await call(page, 'v.setFisheyeDistortion(1); v.setView(0, 90, 150); return v.settled();');
   const corners = await pixels(page, [[W / 2, H / 2], [20, 20], [W - 20, H - 20]]);
   assert.ok(corners.every((c) => c[0] + c[1] + c[2] > 60), `${what}: little planet has black places: ${JSON.stringify(corners)}`);
-}
-
-function handlerTexts(dir) {
-  const texts = new Set();
-  const visit = (value) => {
-    if (typeof value === 'string') { if (/^\s*function\s*\(/.test(value)) texts.add(value); } else if (value && typeof value === 'object') Object.values(value).forEach(visit);
-  };
-  for (const file of fs.readdirSync(dir).filter((f) => /\.json$/.test(f))) visit(readParams(path.join(dir, file)));
-  return texts;
 }
 
 // The handler log of this test, read by the suite-wide count.

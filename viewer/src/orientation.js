@@ -60,10 +60,11 @@ export class Instrument extends Button {
     this.turn();
   }
 
-  // The angle of north in the view, clockwise from the top; null when north is unknown.
+  // The angle of north in the view, clockwise from the top; null when north is unknown (or the
+  // picture is flat, without directions).
   northAngle() {
     const l = this.viewer.location();
-    if (!l || typeof l.north !== 'number' || !this.viewer.view) return null;
+    if (!l || typeof l.north !== 'number' || this.viewer.flat) return null;
     return l.north - this.viewer.getView().pan;
   }
 
