@@ -242,6 +242,8 @@ async function checkKeyboard(page) {
   await page.locator('#vantoViewerID .vanto-button[data-id="infobutton"]').focus();
   await page.keyboard.press('Enter');
   await until(page, "return v.currentMBId === 'infobox';");
+  assert.match(await call(page, "return v.get('infobox').node.getAttribute('role') + ': ' + v.get('infobox').node.textContent;"),
+    /^status: [^]*About this room/, 'the info box is not read out');
   await page.keyboard.press('Escape');
   await until(page, 'return !v.currentMBId;');
   await page.mouse.click(W / 2, H / 3, { button: 'right' });
@@ -257,7 +259,8 @@ async function checkGradients(page) {
 }
 
 // The iOS question for the device's orientation comes with the first tap; the answer lets the
-// events in and the gyroscope button shows itself. A gamepad's stick turns the view.
+// events in and the gyroscope button shows itself. A gamepad's stick turns the view, its second
+// button leaves VR mode.
 async function checkDevices(page) {
   assert.equal(await page.evaluate(() => window.orientationAsked), 0, 'asked before a tap');
   await page.mouse.click(W / 2, H / 4);
@@ -270,6 +273,15 @@ async function checkDevices(page) {
     window.dispatchEvent(new Event('gamepadconnected'));
   });
   await until(page, `return ((v.getView().pan - ${before}) + 360) % 360 > 5 && ((v.getView().pan - ${before}) + 360) % 360 < 180;`);
+  await page.evaluate(() => { window.fakePads = []; });
+  // Its second button leaves VR mode.
+  await call(page, 'v.enterVRMode();');
+  await until(page, 'return v.isVRModeEnabled();');
+  await page.evaluate(() => {
+    window.fakePads = [{ connected: true, axes: [0, 0, 0, 0], buttons: [{ pressed: false, value: 0 }, { pressed: true, value: 1 }] }];
+    window.dispatchEvent(new Event('gamepadconnected'));
+  });
+  await until(page, 'return !v.isVRModeEnabled();');
   await page.evaluate(() => { window.fakePads = []; });
 }
 

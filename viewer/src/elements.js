@@ -104,6 +104,8 @@ export class TextBox extends Element {
     this.updateAlign();
     this.updateStyles();
     this.node.style.pointerEvents = this.captureMouse || this.onclick ? 'auto' : 'none';
+    // Message boxes are read out by screen readers when they appear.
+    if (this.captureMouse) this.node.setAttribute('role', 'status');
     this.node.style.zIndex = '20';
     if (this.captureMouse || this.onclick) {
       // Clicks on the box are the box's, not the panorama's.
