@@ -15,9 +15,6 @@ import { startServer } from './server.mjs';
 
 const { tool, work, modules } = testArgs('orientation.test.mjs');
 const NORTH = 30;
-// Size and drawing of the kinds over the picture (0 to 9); 10 and 11 sit in the toolbar.
-const SIZES = [60, 96, 48, 32, 60, 96, 48, 60, 96, 48];
-const TYPE = (kind) => (kind === 10 ? 'compass' : kind === 11 ? 'radar' : kind < 4 ? 'compass' : kind < 7 ? 'dial' : 'radar');
 
 function preset(dir, name, lines) {
   const file = path.join(dir, `${name}.ini`);
@@ -39,7 +36,10 @@ function buildPages() {
       'AddOrientation=1', `OrientationElement=${kind}`, `OrientationElementPosition=${spec.position}`,
       `PositionNorth=${spec.north ? 1 : 0}`, 'ShowWebGLWarning=0']);
     exportPage(tool, [picture, '--settings', file, '--location', `48.1,11.5,${NORTH}`, '-o', path.join(work, spec.name, 'room.html')]);
-    pages.push({ ...spec, dir: path.join(work, spec.name) });
+    // The element as the file has it: over the picture, or an item of the toolbar.
+    const controls = readParams(path.join(work, spec.name, 'room_controls.json'));
+    const element = (controls.orientation || [])[0] || [].concat(controls.buttonBox)[0].button.find((b) => b.id === 'compass');
+    pages.push({ ...spec, element, dir: path.join(work, spec.name) });
   }
   // VR, gyroscope, info box and the design whose button styles use the old gradient syntax.
   const info = Buffer.from('<b>About this room</b>', 'utf8').toString('base64');
@@ -71,12 +71,12 @@ const INSPECT = `
       .sort((x, y) => x.node.getBoundingClientRect().left - y.node.getBoundingClientRect().left).map((b) => b.id || 'type' + b.type) : [] };
 `;
 
-// Where each OrientationElementPosition puts the element, within a pixel.
-const PLACES = [
-  ({ root, r }) => Math.abs(r.left - root.left - 8) <= 1 && Math.abs(r.top - root.top - 8) <= 1,
-  ({ root, r }) => Math.abs(r.left - root.left - 8) <= 1 && Math.abs(r.middle - root.middle) <= 1,
-  ({ root, r }) => Math.abs(root.right - 8 - r.right) <= 1 && Math.abs(r.middle - root.middle) <= 1,
-];
+// Where each "align" puts the element, "xoff" and "yoff" from its edges, within a pixel.
+const PLACES = {
+  lefttop: ({ root, r }, x, y) => Math.abs(r.left - root.left - x) <= 1 && Math.abs(r.top - root.top - y) <= 1,
+  left: ({ root, r }, x, y) => Math.abs(r.left - root.left - x) <= 1 && Math.abs(r.middle - root.middle - y) <= 1,
+  right: ({ root, r }, x, y) => Math.abs(root.right - x - r.right) <= 1 && Math.abs(r.middle - root.middle - y) <= 1,
+};
 
 // The drawn turn: the needle's or dial's rotation, or where the radar's sector has ink (probed on
 // its layer at 60% of the radius, every 10 degrees clockwise from the top).
@@ -95,17 +95,18 @@ const TURN = `
 const angleGap = (a, b) => Math.abs(((a - b) % 360 + 540) % 360 - 180);
 
 async function checkInstrument(page, p) {
-  const what = `kind ${p.kind} (${TYPE(p.kind)}), design ${p.design}`;
+  const el = p.element;
+  const what = `kind ${p.kind} (${el.type}), design ${p.design}`;
   const got = await call(page, INSPECT);
   assert.ok(got.visible && got.shown, `${what}: not shown although north is known`);
   assert.ok(got.face > 20, `${what}: blank face`);
-  if (TYPE(p.kind) !== 'radar') assert.ok(got.layer > 20, `${what}: blank needle or dial`);
+  if (el.type !== 'radar') assert.ok(got.layer > 20, `${what}: blank needle or dial`);
   if (p.kind >= 10) {
     assert.ok(got.inToolbar, `${what}: not in the toolbar`);
     assert.deepEqual(got.toolbarOrder.slice(0, 2), ['hideTbButton', 'compass'], `${what}: toolbar order ${got.toolbarOrder}`);
   } else {
-    assert.ok(PLACES[p.position](got), `${what}: position ${p.position}: ${JSON.stringify(got.r)} in ${JSON.stringify(got.root)}`);
-    assert.ok(Math.abs(got.r.width - SIZES[p.kind]) <= 0.5 && Math.abs(got.r.height - SIZES[p.kind]) <= 0.5, `${what}: size ${got.r.width}`);
+    assert.ok(PLACES[el.align](got, el.xoff, el.yoff), `${what}: ${el.align}: ${JSON.stringify(got.r)} in ${JSON.stringify(got.root)}`);
+    assert.ok(Math.abs(got.r.width - el.width) <= 0.5 && Math.abs(got.r.height - el.height) <= 0.5, `${what}: size ${got.r.width}`);
   }
   assert.equal(got.tag, p.north ? 'BUTTON' : 'DIV', `${what}: a click turns north only with PositionNorth`);
   assert.match(got.label, p.north ? /^(Compass|Radar): turn the view to north$/ : /^(Compass|Radar)$/, `${what}: name`);
@@ -115,7 +116,7 @@ async function checkInstrument(page, p) {
     await call(page, 'v.setView(a, 0, 80);', NORTH + d);
     await call(page, 'return v.settled();');
     const turn = await call(page, TURN);
-    if (TYPE(p.kind) === 'radar') {
+    if (el.type === 'radar') {
       // The sector looks d degrees clockwise from north and is 80 degrees wide.
       const centre = (d + 360) % 360;
       // (Small sectors blur at their edges: the middle of the probes that hit must be right.)
@@ -130,7 +131,7 @@ async function checkInstrument(page, p) {
     const cdp = await page.context().newCDPSession(page);
     await cdp.send('Emulation.setDeviceMetricsOverride', { width: W, height: H, deviceScaleFactor: 2, mobile: false });
     const sharp = await call(page, "const c = v.get('compass'); c.updateSkins(); return [c.face.width, c.layer.width];");
-    assert.deepEqual(sharp, [2 * SIZES[1], 2 * SIZES[1]], `${what}: layers at a pixel ratio of 2`);
+    assert.deepEqual(sharp, [2 * el.width, 2 * el.width], `${what}: layers at a pixel ratio of 2`);
     const inked = await call(page, INSPECT);
     assert.ok(inked.face > 3 * got.face && inked.layer > 3 * got.layer, `${what}: ink at 2x ${inked.face}, ${inked.layer}`);
   }
@@ -304,6 +305,10 @@ function writeHandlerLog(name, texts, record) {
 async function main() {
   const started = Date.now();
   const pages = buildPages();
+  // Every drawing and every place the library writes is among them.
+  const seen = (f) => [...new Set(pages.map(f))].sort().join(',');
+  assert.equal(seen((p) => p.element.type), 'compass,dial,radar');
+  assert.equal(seen((p) => `${p.element.align}${p.element.index === 2 ? ' in the toolbar' : ''}`), 'left,left in the toolbar,lefttop,right');
   const server = await startServer(work);
   const browser = await launchBrowser(modules, { width: W, height: H });
   await browser.context.addInitScript(() => {
