@@ -1,6 +1,6 @@
 // Reading the device's orientation where the browser asks the user first (iOS): the question may
-// only be put from a tap, so the viewer puts it at the first tap on the panorama, and again when
-// the gyroscope is switched on before it was answered. Elsewhere nothing is asked.
+// only be put from a tap, so the viewer puts it at the first tap on the viewer, or when a tap
+// switches the gyroscope on before that. Elsewhere nothing is asked.
 let answer = null;
 
 export function orientationNeedsPermission() {

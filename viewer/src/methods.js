@@ -141,9 +141,11 @@ export const methods = {
   },
   gyroscopeEnabled() { return !!this.gyroOn; },
   enableGyroscope(on) {
+    // Where the browser asks first, a switch-on that comes before the answer puts the question
+    // (the events, and with them the availability, follow a yes).
+    if (on && !this.gyroAvailable) askOrientationPermission();
     const next = !!on && !!this.gyroAvailable && !this.flat;
     if (next === !!this.gyroOn) return;
-    if (next) askOrientationPermission();
     this.gyroOn = next;
     if (next) {
       this.gyroOffset = null;
