@@ -9,7 +9,7 @@ import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
 import { exportPage, handlerTexts, writeGradient, writeTone, readParams } from './fixtures.mjs';
-import { H, W, launchBrowser, openViewer, testArgs, viewerCall as call } from './browser.mjs';
+import { H, W, checkPage, launchBrowser, openViewer, testArgs, viewerCall as call } from './browser.mjs';
 import { startServer } from './server.mjs';
 
 const { tool, work, modules } = testArgs('controls.test.mjs');
@@ -314,8 +314,7 @@ async function main() {
       // button) is there; the others from disk, drawn without WebGL.
       const clicked = p.position === p.design % POSITIONS.length;
       const url = clicked ? `${server.url}/${path.basename(p.dir)}/room.html` : pathToFileURL(path.join(p.dir, 'room.html')).href;
-      const { page, errors } = await openViewer(browser.context, url);
-      try {
+      const passed = await checkPage(browser.context, label, url, async (page) => {
         const params = readParams(path.join(p.dir, 'room_controls.json'));
         await checkLayout(page, p, params);
         if (p === pages[0]) {
@@ -323,17 +322,8 @@ async function main() {
           assert.deepEqual(empty, [], `tiles the files address but the skin picture lacks (${tiles.size} addressed)`);
         }
         if (clicked) await checkClicks(page, p.design);
-        assert.deepEqual(errors, [], `${label}: errors`);
-        console.log(`ok - ${label}`);
-      } catch (e) {
-        failures++;
-        console.log(`not ok - ${label}: ${e.message}`);
-      } finally {
-        const record = await page.evaluate(() => vantoViewer.scriptRecord());
-        record.ran.forEach((t) => ran.add(t));
-        record.failed.forEach((t) => failed.add(t));
-        await page.close();
-      }
+      }, { ran, failed });
+      if (!passed) failures++;
     }
     try {
       await checkGerman(browser.context, pages[0].dir);

@@ -10,7 +10,7 @@ import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
 import { exportPage, handlerTexts, writeGradient, readParams } from './fixtures.mjs';
-import { H, W, launchBrowser, openViewer, pixels, testArgs, viewerCall as call } from './browser.mjs';
+import { H, W, checkPage, launchBrowser, pixels, testArgs, viewerCall as call } from './browser.mjs';
 import { startServer } from './server.mjs';
 
 const { tool, work, modules } = testArgs('orientation.test.mjs');
@@ -321,20 +321,7 @@ async function main() {
   const texts = new Set();
   let failures = 0;
   const visit = async (label, url, check) => {
-    const { page, errors } = await openViewer(browser.context, url);
-    try {
-      await check(page);
-      assert.deepEqual(errors, [], `${label}: errors`);
-      console.log(`ok - ${label}`);
-    } catch (e) {
-      failures++;
-      console.log(`not ok - ${label}: ${e.message}`);
-    } finally {
-      const r = await page.evaluate(() => vantoViewer.scriptRecord());
-      r.ran.forEach((t) => record.ran.add(t));
-      r.failed.forEach((t) => record.failed.add(t));
-      await page.close();
-    }
+    if (!(await checkPage(browser.context, label, url, check, record))) failures++;
   };
   const fromDisk = (name) => pathToFileURL(path.join(work, name, 'room.html')).href;
   const fromServer = (name) => `${server.url}/${name}/room.html`;
