@@ -8,7 +8,7 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
-import { exportPage, handlerTexts, writeGradient, writeTone, readParams } from './fixtures.mjs';
+import { exportPage, freshWork, handlerTexts, writeTone, readParams } from './fixtures.mjs';
 import { H, W, checkPage, launchBrowser, openViewer, testArgs, viewerCall as call } from './browser.mjs';
 import { startServer } from './server.mjs';
 
@@ -17,11 +17,7 @@ const DESIGNS = 8;
 const POSITIONS = ['centred', 'full width', 'left', 'right'];
 
 function buildPages() {
-  fs.rmSync(work, { recursive: true, force: true });
-  const src = path.join(work, 'src');
-  fs.mkdirSync(src, { recursive: true });
-  const picture = path.join(src, 'room.ppm');
-  writeGradient(picture, 1024, 512);
+  const { src, picture } = freshWork(work);
   const tone = path.join(src, 'tone.wav');
   writeTone(tone, 2);
   const spots = path.join(src, 'spots.json');

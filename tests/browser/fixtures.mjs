@@ -32,6 +32,17 @@ export function readParams(file) {
   return JSON.parse(text.slice(text.indexOf('=') + 1)).vantoraViewer;
 }
 
+// Empties `work` and writes into its "src" folder the gradient panorama "room.ppm" (1024 x 512);
+// returns both paths.
+export function freshWork(work) {
+  fs.rmSync(work, { recursive: true, force: true });
+  const src = path.join(work, 'src');
+  fs.mkdirSync(src, { recursive: true });
+  const picture = path.join(src, 'room.ppm');
+  writeGradient(picture, 1024, 512);
+  return { src, picture };
+}
+
 // The handler and action texts (every string that is a function text) of the viewer files in `dir`.
 export function handlerTexts(dir) {
   const texts = new Set();

@@ -9,7 +9,7 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
-import { exportPage, handlerTexts, writeGradient, readParams } from './fixtures.mjs';
+import { exportPage, freshWork, handlerTexts, readParams } from './fixtures.mjs';
 import { H, W, checkPage, launchBrowser, pixels, testArgs, viewerCall as call } from './browser.mjs';
 import { startServer } from './server.mjs';
 
@@ -23,11 +23,7 @@ function preset(dir, name, lines) {
 }
 
 function buildPages() {
-  fs.rmSync(work, { recursive: true, force: true });
-  const src = path.join(work, 'src');
-  fs.mkdirSync(src, { recursive: true });
-  const picture = path.join(src, 'room.ppm');
-  writeGradient(picture, 1024, 512);
+  const { src, picture } = freshWork(work);
   const pages = [];
   // Each kind once, the three places and the eight designs in turn, every other one turning north.
   for (let kind = 0; kind < 12; kind++) {
