@@ -1,5 +1,6 @@
 // Debian's Chromium, driven by playwright-core, headless with software WebGL (SwiftShader through
 // ANGLE), a fresh profile and no network services of its own.
+import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
@@ -61,6 +62,27 @@ export async function openViewer(context, url, { expectFailure = false, language
   const outcome = await waitReady(page);
   if (!expectFailure && outcome !== 'ready') throw new Error(`${url}: viewer not ready: ${outcome}`);
   return { page, errors, outcome };
+}
+
+// Opens `url`, runs `check(page)` and prints "ok - label" or "not ok - label: reason"; page errors
+// fail the check. The page's record of the handler texts that ran and threw joins `record` (sets
+// `ran` and `failed`). Returns whether the check passed.
+export async function checkPage(context, label, url, check, record) {
+  const { page, errors } = await openViewer(context, url);
+  try {
+    await check(page);
+    assert.deepEqual(errors, [], `${label}: errors`);
+    console.log(`ok - ${label}`);
+    return true;
+  } catch (e) {
+    console.log(`not ok - ${label}: ${e.message}`);
+    return false;
+  } finally {
+    const r = await page.evaluate(() => vantoViewer.scriptRecord());
+    r.ran.forEach((t) => record.ran.add(t));
+    r.failed.forEach((t) => record.failed.add(t));
+    await page.close();
+  }
 }
 
 // Resolves 'ready', 'failed: reason', or 'timeout' when neither comes within a minute.

@@ -8,8 +8,8 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
-import { exportPage, writeGradient, writeTone, readParams } from './fixtures.mjs';
-import { H, W, launchBrowser, openViewer, testArgs, viewerCall as call } from './browser.mjs';
+import { exportPage, freshWork, handlerTexts, writeTone, readParams } from './fixtures.mjs';
+import { H, W, checkPage, launchBrowser, openViewer, testArgs, viewerCall as call } from './browser.mjs';
 import { startServer } from './server.mjs';
 
 const { tool, work, modules } = testArgs('controls.test.mjs');
@@ -17,11 +17,7 @@ const DESIGNS = 8;
 const POSITIONS = ['centred', 'full width', 'left', 'right'];
 
 function buildPages() {
-  fs.rmSync(work, { recursive: true, force: true });
-  const src = path.join(work, 'src');
-  fs.mkdirSync(src, { recursive: true });
-  const picture = path.join(src, 'room.ppm');
-  writeGradient(picture, 1024, 512);
+  const { src, picture } = freshWork(work);
   const tone = path.join(src, 'tone.wav');
   writeTone(tone, 2);
   const spots = path.join(src, 'spots.json');
@@ -184,8 +180,11 @@ async function checkClicks(page, design) {
   await clickAt(page, 'const r = v.get(v.currentMBId).node.getBoundingClientRect();');
   await until(page, 'return !v.currentMBId;');
 
-  // VR comes with a later step: its button is there and its handler runs.
+  // VR: the split screen comes and its stereo button leaves it (the rest in orientation.test.mjs).
   await clickOn(page, 'vrButton');
+  await until(page, "return v.isVRModeEnabled() && v.get('leftStereoButton').visible;");
+  await clickOn(page, 'leftStereoButton');
+  await until(page, "return !v.isVRModeEnabled() && v.get('toolbar').visible;");
 
   await checkMenu(page, what);
   await checkGyroscope(page, what);
@@ -285,19 +284,9 @@ async function checkGerman(context, dir) {
   }
 }
 
-// Texts that only VR mode and leaving the page run (the stereo buttons' onclick, onentervrmode,
-// onexitvrmode, onexit): they come with the viewer's VR and tour. Every other text must run.
-const PENDING = [/^function\(\)\{ this\.viewer\.exitVRMode\(\);  \} $/, /^function\(\)\{ this\.viewer\.action\('hideMessage'\); var tb = this\.get\('toolbar'\); tb&&tb\.setVisible\(false\);/,
-  /^function\(\)\{  var tb = this\.get\('toolbar'\); tb&&tb\.setVisible\(true\);/, /this\.viewer\.gyroWasEnabled = this\.viewer\.gyroAvailable&&/];
-
-function handlerTexts(dir) {
-  const texts = new Set();
-  const visit = (value) => {
-    if (typeof value === 'string') { if (/^\s*function\s*\(/.test(value)) texts.add(value); } else if (value && typeof value === 'object') Object.values(value).forEach(visit);
-  };
-  for (const file of fs.readdirSync(dir).filter((f) => /\.json$/.test(f))) visit(readParams(path.join(dir, file)));
-  return texts;
-}
+// Texts that only leaving the page runs (onexit): they come with the viewer's tour. Every other
+// text must run.
+const PENDING = [/this\.viewer\.gyroWasEnabled = this\.viewer\.gyroAvailable&&/];
 
 async function main() {
   const started = Date.now();
@@ -321,8 +310,7 @@ async function main() {
       // button) is there; the others from disk, drawn without WebGL.
       const clicked = p.position === p.design % POSITIONS.length;
       const url = clicked ? `${server.url}/${path.basename(p.dir)}/room.html` : pathToFileURL(path.join(p.dir, 'room.html')).href;
-      const { page, errors } = await openViewer(browser.context, url);
-      try {
+      const passed = await checkPage(browser.context, label, url, async (page) => {
         const params = readParams(path.join(p.dir, 'room_controls.json'));
         await checkLayout(page, p, params);
         if (p === pages[0]) {
@@ -330,17 +318,8 @@ async function main() {
           assert.deepEqual(empty, [], `tiles the files address but the skin picture lacks (${tiles.size} addressed)`);
         }
         if (clicked) await checkClicks(page, p.design);
-        assert.deepEqual(errors, [], `${label}: errors`);
-        console.log(`ok - ${label}`);
-      } catch (e) {
-        failures++;
-        console.log(`not ok - ${label}: ${e.message}`);
-      } finally {
-        const record = await page.evaluate(() => vantoViewer.scriptRecord());
-        record.ran.forEach((t) => ran.add(t));
-        record.failed.forEach((t) => failed.add(t));
-        await page.close();
-      }
+      }, { ran, failed });
+      if (!passed) failures++;
     }
     try {
       await checkGerman(browser.context, pages[0].dir);

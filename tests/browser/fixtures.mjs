@@ -32,6 +32,27 @@ export function readParams(file) {
   return JSON.parse(text.slice(text.indexOf('=') + 1)).vantoraViewer;
 }
 
+// Empties `work` and writes into its "src" folder the gradient panorama "room.ppm" (1024 x 512);
+// returns both paths.
+export function freshWork(work) {
+  fs.rmSync(work, { recursive: true, force: true });
+  const src = path.join(work, 'src');
+  fs.mkdirSync(src, { recursive: true });
+  const picture = path.join(src, 'room.ppm');
+  writeGradient(picture, 1024, 512);
+  return { src, picture };
+}
+
+// The handler and action texts (every string that is a function text) of the viewer files in `dir`.
+export function handlerTexts(dir) {
+  const texts = new Set();
+  const visit = (value) => {
+    if (typeof value === 'string') { if (/^\s*function\s*\(/.test(value)) texts.add(value); } else if (value && typeof value === 'object') Object.values(value).forEach(visit);
+  };
+  for (const file of fs.readdirSync(dir).filter((f) => /\.json$/.test(f))) visit(readParams(path.join(dir, file)));
+  return texts;
+}
+
 // A short sine tone as 8-bit mono WAV.
 export function writeTone(file, seconds = 0.5, rate = 8000) {
   const samples = Math.round(seconds * rate);

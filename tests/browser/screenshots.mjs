@@ -1,6 +1,6 @@
 // Takes the README's screenshots (run by hand, not a test): the exported sample from disk, a flat
-// picture, a tour page with its title, hotspots and an open message box, and a contact sheet of
-// the eight toolbar designs.
+// picture, a tour page with its title, hotspots and an open message box, a compass and a radar,
+// and a contact sheet of the eight toolbar designs.
 //
 //   node tests/browser/screenshots.mjs BUILD_DIR OUTPUT_DIR
 import fs from 'node:fs';
@@ -46,6 +46,16 @@ await shoot('shots/hall.html', 'viewer-tour.png', async (p) => {
   await p.locator('.vanto-hotspot').first().click();
   await p.locator('.vanto-hotspot').last().hover();
 });
+// The compass (large, in the corner, design 8) and the radar (large, at the right edge, design 5),
+// north where the sample's N stands, the view turned a little east of it.
+for (const [name, lines] of [['compass', ['TBDesign=7', 'OrientationElement=1', 'OrientationElementPosition=0']],
+  ['radar', ['TBDesign=4', 'OrientationElement=8', 'OrientationElementPosition=2']]]) {
+  const preset = path.join(work, `src/${name}.ini`);
+  fs.writeFileSync(preset, ['[Toolbar]', lines[0], '[Applet]', 'AddOrientation=1', 'PositionNorth=1', ...lines.slice(1),
+    'ShowWebGLWarning=0', ''].join('\r\n'));
+  exportPage(tool, [hall, '--settings', preset, '--location', '48.14,11.58,180', '-o', path.join(work, `${name}/${name}.html`)]);
+  await shoot(`${name}/${name}.html`, `viewer-${name}.png`, (p) => p.evaluate(() => vantoViewer.get('vantoViewerID').setView(215, 0, 80)));
+}
 // The eight toolbar designs on the sample, every button switched on: the lower edge of each page,
 // stacked into one sheet.
 const strips = [];

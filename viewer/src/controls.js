@@ -5,6 +5,11 @@
 import { Element, placeNode } from './elements.js';
 import { paintSkin } from './skin.js';
 import { maybeText } from './texts.js';
+import { modernCss } from './css.js';
+
+// Toolbar items that are not plain buttons, by their "type" (the compass and radar register
+// themselves here).
+export const ITEM_KINDS = {};
 
 // Built-in functions of buttons without handlers: degrees a second of turning (pan, tilt) or the
 // factor a second of zooming, and the step of one keyboard press.
@@ -17,10 +22,18 @@ const ZOOM_RATE = 0.9; // e-folds of the field of view a second
 // Applies a CSS text over a placement: the text may bring its own transform (the folding designs
 // turn their boxes), which then follows the placement's translation.
 function applyStyle(node, css, place) {
-  node.style.cssText = css;
+  node.style.cssText = modernCss(css);
   const own = node.style.transform;
   place(node);
   if (own) node.style.transform = `${node.style.transform} ${own}`;
+}
+
+// A box parked beyond the viewer's edges (a toolbar slid away, a show button waiting below the
+// edge) is out of the way of Tab and screen readers. Its place is judged without its transforms,
+// which fold boxes away and back in while they stay where they are.
+function markParked(node, root) {
+  const [x, y, w, h] = [node.offsetLeft, node.offsetTop, node.offsetWidth, node.offsetHeight];
+  node.inert = w > 0 && (y >= root.clientHeight || y + h <= 0 || x >= root.clientWidth || x + w <= 0);
 }
 
 export class Button extends Element {
@@ -132,6 +145,7 @@ export class Button extends Element {
       node.style.height = `${this.buttonHeight}px`;
     });
     if (!this.visible || this.dropped) this.node.style.display = 'none';
+    else if (!this.toolbar) markParked(this.node, this.viewer.root);
   }
 
   updateAlign() {
@@ -159,8 +173,11 @@ export class Toolbar extends Element {
   constructor(viewer, members) {
     super(viewer, { ...members, button: undefined }, 'toolbar');
     this.node.setAttribute('role', 'toolbar');
-    this.buttons = (members.button || []).map((b) => new Button(viewer, b, this));
-    for (const b of this.buttons) {
+    this.buttons = (members.button || []).map((b) => new (ITEM_KINDS[b.type] || Button)(viewer, b, this));
+    // Tab walks the buttons as they stand, from left to right.
+    const rank = { left: 0, center: 1, right: 2 };
+    const order = (b) => (rank[b.align || 'center'] ?? 1) * 1000 + (Number(b.index) || 0);
+    for (const b of [...this.buttons].sort((x, y) => order(x) - order(y))) {
       this.node.appendChild(b.node);
       if (b.id) viewer.elements.set(b.id, b);
     }
@@ -176,6 +193,7 @@ export class Toolbar extends Element {
       node.style.height = this.height || '48px';
     });
     if (!this.visible) this.node.style.display = 'none';
+    else markParked(this.node, this.viewer.root);
   }
 
   updateAlign() { this.updateStyles(); }

@@ -3,6 +3,7 @@
 // can read and change them, turns its function texts into callable methods and owns one DOM node
 // in the viewer's overlay.
 import { compile, run } from './scripting.js';
+import { modernCss } from './css.js';
 
 const FUNCTION_MEMBERS = ['onclick', 'oninit', 'onscenechanged', 'onshow', 'onmouseover', 'onmouseout'];
 
@@ -82,7 +83,7 @@ export class Element {
     const hover = this.hover && this.stylehover;
     const place = { left: '', right: '', top: '', bottom: '', transform: '', position: '' };
     for (const k of Object.keys(place)) place[k] = this.node.style[k];
-    this.node.style.cssText = `${this.style || ''};${hover ? this.stylehover : ''}`;
+    this.node.style.cssText = modernCss(`${this.style || ''};${hover ? this.stylehover : ''}`);
     Object.assign(this.node.style, place);
     if (this.maxwidth) this.node.style.maxWidth = this.maxwidth;
     if (!this.visible) this.node.style.display = 'none';
@@ -103,6 +104,8 @@ export class TextBox extends Element {
     this.updateAlign();
     this.updateStyles();
     this.node.style.pointerEvents = this.captureMouse || this.onclick ? 'auto' : 'none';
+    // Message boxes are read out by screen readers when they appear.
+    if (this.captureMouse) this.node.setAttribute('role', 'status');
     this.node.style.zIndex = '20';
     if (this.captureMouse || this.onclick) {
       // Clicks on the box are the box's, not the panorama's.

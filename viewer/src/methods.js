@@ -1,10 +1,11 @@
-// The viewer methods that handler and action texts call through `this.viewer`. Features that the
-// viewer does not have yet (VR, gallery, map) answer harmlessly: see
+// The viewer methods that handler and action texts call through `this.viewer` (VR's are in vr.js).
+// Features that the viewer does not have yet (gallery, map) answer harmlessly: see
 // docs/viewer-scripting.md.
 import { run } from './scripting.js';
 import { TextBox } from './elements.js';
 import { fitScale } from './camera.js';
 import { language } from './texts.js';
+import { askAtFirstTap, askOrientationPermission } from './gyro.js';
 
 export const methods = {
   // Runs a named action of the controls file with `this` holding viewer, get and tween.
@@ -111,12 +112,9 @@ export const methods = {
   height() { return this.size().height; },
   location() { return this.node.location || null; },
 
-  // A tour gallery, a map and VR come with the controls elements; until then there is none.
+  // A tour gallery and a map come with the controls elements; until then there is none.
   gallery() { return null; },
   map() { return null; },
-  isVRModeEnabled() { return false; },
-  enterVRMode() { return false; },
-  exitVRMode() { return false; },
 
   // The gyroscope: reported available when the device sends orientation events; enabled, it
   // turns the view with the device (the direction its back faces), from the view it had.
@@ -125,6 +123,7 @@ export const methods = {
   checkForGyroscope() {
     if (this.gyroChecked) return;
     this.gyroChecked = true;
+    askAtFirstTap(this.root);
     let answer = null;
     const tell = (available) => {
       if (answer === available || answer === true) return;
@@ -142,6 +141,9 @@ export const methods = {
   },
   gyroscopeEnabled() { return !!this.gyroOn; },
   enableGyroscope(on) {
+    // Where the browser asks first, a switch-on that comes before the answer puts the question
+    // (the events, and with them the availability, follow a yes).
+    if (on && !this.gyroAvailable) askOrientationPermission();
     const next = !!on && !!this.gyroAvailable && !this.flat;
     if (next === !!this.gyroOn) return;
     this.gyroOn = next;

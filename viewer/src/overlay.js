@@ -13,6 +13,8 @@ const CSS = `
  pointer-events:auto;z-index:26;overflow:visible}
 .vanto-button:focus-visible{outline:2px solid #4da3ff;outline-offset:2px}
 .vanto-face{position:absolute;pointer-events:none}
+.vanto-instrument{pointer-events:none;cursor:default}
+.vanto-vr .vanto-hotspot,.vanto-vr .vanto-flare{display:none!important}
 .vanto-menu{min-width:160px;padding:4px 0;font:13px/1.2 Arial,Helvetica,sans-serif;color:#000;user-select:none}
 .vanto-menuitem[role=menuitem]{padding:6px 16px;cursor:pointer;white-space:nowrap;outline:none}
 .vanto-menuitem[role=menuitem]:hover,.vanto-menuitem[role=menuitem]:focus{background:rgba(0,0,0,0.12)}

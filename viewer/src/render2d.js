@@ -18,10 +18,27 @@ export class Canvas2DRenderer {
       c.height = Math.round(height * ratio);
     }
     this.ratio = ratio;
+    this.offset = [0, 0];
     const ctx = this.ctx;
+    ctx.restore();
     ctx.setTransform(1, 0, 0, 1, 0, 0);
     ctx.fillStyle = '#000';
     ctx.fillRect(0, 0, c.width, c.height);
+    ctx.save();
+  }
+
+  // The following tiles go into the rectangle x, y, w, h (from the top left), their positions
+  // counted from its corner.
+  region(x, y, w, h) {
+    const r = this.ratio;
+    const ctx = this.ctx;
+    ctx.restore();
+    ctx.save();
+    ctx.setTransform(1, 0, 0, 1, 0, 0);
+    ctx.beginPath();
+    ctx.rect(x * r, y * r, w * r, h * r);
+    ctx.clip();
+    this.offset = [x * r, y * r];
   }
 
   // mesh: { positions: [x, y, ...] in CSS pixels, uvs: [u, v, ...] in image pixels, triangles: [i, j, k, ...] }
@@ -31,12 +48,14 @@ export class Canvas2DRenderer {
     const P = mesh.positions;
     const U = mesh.uvs;
     const T = mesh.triangles;
+    const [ox, oy] = this.offset;
     if (mesh.rectangle) {
       ctx.setTransform(1, 0, 0, 1, 0, 0);
-      ctx.drawImage(tile.img, P[0] * r, P[1] * r, (P[2] - P[0]) * r, (P[5] - P[1]) * r);
+      ctx.drawImage(tile.img, ox + P[0] * r, oy + P[1] * r, (P[2] - P[0]) * r, (P[5] - P[1]) * r);
       return;
     }
-    for (let i = 0; i < T.length; i += 3) drawTriangle(ctx, tile.img, r, P, U, T[i] * 2, T[i + 1] * 2, T[i + 2] * 2);
+    ctx.setTransform(1, 0, 0, 1, ox, oy);
+    for (let i = 0; i < T.length; i += 3) drawTriangle(ctx, tile.img, r, this.offset, P, U, T[i] * 2, T[i + 1] * 2, T[i + 2] * 2);
   }
 
   forget() {}
@@ -47,7 +66,7 @@ export class Canvas2DRenderer {
 // Draws the image part of one triangle onto its screen triangle, grown by a little so that
 // neighbouring triangles leave no visible seam. Only the triangle's part of the image is handed
 // to drawImage, which keeps the work per triangle small.
-function drawTriangle(ctx, img, r, P, U, a, b, c) {
+function drawTriangle(ctx, img, r, offset, P, U, a, b, c) {
   const x0 = P[a] * r; const y0 = P[a + 1] * r;
   const x1 = P[b] * r; const y1 = P[b + 1] * r;
   const x2 = P[c] * r; const y2 = P[c + 1] * r;
@@ -85,7 +104,7 @@ function drawTriangle(ctx, img, r, P, U, a, b, c) {
   ctx.lineTo(p2[0], p2[1]);
   ctx.closePath();
   ctx.clip();
-  ctx.setTransform(ta, tb, tc, td, te, tf);
+  ctx.setTransform(ta, tb, tc, td, te + offset[0], tf + offset[1]);
   ctx.drawImage(img, su, sv, sw, sh, su, sv, sw, sh);
   ctx.restore();
 }

@@ -53,17 +53,29 @@ class WebGLRenderer {
     gl.enableVertexAttribArray(this.texcoord);
   }
 
-  begin(width, height, ratio) {
+  // Starts a frame of width x height CSS pixels on the canvas, or on `framebuffer` (a WebXR
+  // layer's, sized in its own pixels).
+  begin(width, height, ratio, framebuffer = null) {
     const c = this.canvas;
     const gl = this.gl;
-    if (c.width !== Math.round(width * ratio) || c.height !== Math.round(height * ratio)) {
+    gl.bindFramebuffer(gl.FRAMEBUFFER, framebuffer);
+    if (!framebuffer && (c.width !== Math.round(width * ratio) || c.height !== Math.round(height * ratio))) {
       c.width = Math.round(width * ratio);
       c.height = Math.round(height * ratio);
     }
-    gl.viewport(0, 0, c.width, c.height);
+    this.frame = { height, ratio };
+    gl.viewport(0, 0, Math.round(width * ratio), Math.round(height * ratio));
     gl.uniform2f(this.size, width, height);
     gl.clearColor(0, 0, 0, 1);
     gl.clear(gl.COLOR_BUFFER_BIT);
+  }
+
+  // The following tiles go into the rectangle x, y, w, h (from the top left), their positions
+  // counted from its corner.
+  region(x, y, w, h) {
+    const r = this.frame.ratio;
+    this.gl.viewport(Math.round(x * r), Math.round((this.frame.height - y - h) * r), Math.round(w * r), Math.round(h * r));
+    this.gl.uniform2f(this.size, w, h);
   }
 
   texture(tile) {

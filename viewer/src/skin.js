@@ -7,6 +7,10 @@
 // The canvas has device pixels; canvas shadows ignore the transform, so blur and offsets are
 // scaled by hand.
 import { skinImage } from './skinimage.js';
+import { compassImage } from './compassimage.js';
+
+// The pictures a copy may name; an unknown name draws from the skin picture.
+const PICTURES = { defaultSkin: skinImage, defaultCompass: compassImage };
 
 // Parses a face into [{name, args}]; unknown commands are kept and skipped when painting.
 export function parseSkin(textValue) {
@@ -58,7 +62,7 @@ export function paintSkin(canvas, textValue, width, height, ratio = window.devic
   // corner when there is no "dim"); these units -> device pixels of the canvas.
   const sx = canvas.width / area.pw;
   const sy = canvas.height / area.ph;
-  const skin = skinImage(Math.max(sx, sy));
+  const pixelRatio = Math.max(sx, sy);
   for (const c of parseSkin(normalise(textValue))) {
     if (c.name === 'shadow' && c.args.length >= 4) {
       const [blur, dx, dy] = c.args.map(parseFloat);
@@ -70,6 +74,7 @@ export function paintSkin(canvas, textValue, width, height, ratio = window.devic
       ctx.globalAlpha = Math.min(Math.max(parseFloat(c.args[0]), 0), 1) || 0;
     } else if (c.name === 'copy' && c.args.length >= 9) {
       const n = c.args.slice(1, 9).map(parseFloat);
+      const skin = (PICTURES[c.args[0]] || skinImage)(pixelRatio);
       const r = skin.ratio;
       let source = skin.canvas;
       let [srcX, srcY, srcW, srcH] = [n[0] * r, n[1] * r, n[2] * r, n[3] * r];

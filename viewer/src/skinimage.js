@@ -1,9 +1,10 @@
 // The picture "defaultSkin" that the button faces copy their icons from: a grid of 64 x 64 tiles,
-// white on transparent. It is not a file but this drawing script, run once per pixel ratio, so the
-// icons are sharp at any ratio and the viewer works from disk without loading anything.
+// white on transparent, drawn by this script (see picture.js).
 //
 // Each tile is drawn in its own 64 x 64 coordinate space. The places are those the button texts
 // address; the arrow and zoom tiles belong to the button types 1 to 6 of controls.js.
+
+import { drawnPicture } from './picture.js';
 
 const WIDTH = 256;
 const HEIGHT = 512;
@@ -120,30 +121,8 @@ export const TILES = {
   },
 };
 
-const pictures = new Map();
-
 // The skin picture at `ratio` device pixels per skin pixel (a canvas of 256 x 512 times ratio).
-export function skinImage(ratio = 1) {
-  const key = Math.max(1, Math.ceil(ratio * 2) / 2);
-  if (pictures.has(key)) return pictures.get(key);
-  const canvas = document.createElement('canvas');
-  canvas.width = WIDTH * key;
-  canvas.height = HEIGHT * key;
-  const ctx = canvas.getContext('2d');
-  for (const [origin, draw] of Object.entries(TILES)) {
-    const [x, y] = origin.split(',').map(Number);
-    ctx.save();
-    ctx.setTransform(key, 0, 0, key, (x + 32) * key, (y + 32) * key);
-    ctx.beginPath();
-    ctx.rect(-32, -32, 64, 64);
-    ctx.clip();
-    ctx.fillStyle = ctx.strokeStyle = '#fff';
-    ctx.lineWidth = 5;
-    ctx.lineCap = ctx.lineJoin = 'round';
-    draw(ctx);
-    ctx.restore();
-  }
-  const picture = { canvas, ratio: key };
-  pictures.set(key, picture);
-  return picture;
-}
+export const skinImage = drawnPicture(WIDTH, HEIGHT, Object.entries(TILES).map(([origin, draw]) => {
+  const [x, y] = origin.split(',').map(Number);
+  return { x, y, size: 64, draw };
+}));

@@ -17,7 +17,7 @@ const TEXTS = {
     fullscreenButton: 'Full screen', gallerybutton: 'Gallery', mapbutton: 'Map',
     galleryBtnPrev: 'Previous panorama', galleryBtnNext: 'Next panorama', navLeftButton: 'Previous panorama',
     navRightButton: 'Next panorama', leftStereoButton: 'Leave the VR view', rightStereoButton: 'Leave the VR view',
-    button: 'Button',
+    button: 'Button', compass: 'Compass', radar: 'Radar', turnNorth: 'turn the view to north',
   },
   de: {
     missing: 'Das Panorama konnte nicht geladen werden: Die Datei „%s“ fehlt oder ist nicht lesbar.',
@@ -35,7 +35,7 @@ const TEXTS = {
     fullscreenButton: 'Vollbild', gallerybutton: 'Galerie', mapbutton: 'Karte',
     galleryBtnPrev: 'Vorheriges Panorama', galleryBtnNext: 'Nächstes Panorama', navLeftButton: 'Vorheriges Panorama',
     navRightButton: 'Nächstes Panorama', leftStereoButton: 'VR-Ansicht verlassen', rightStereoButton: 'VR-Ansicht verlassen',
-    button: 'Schaltfläche',
+    button: 'Schaltfläche', compass: 'Kompass', radar: 'Radar', turnNorth: 'Ansicht nach Norden drehen',
   },
 };
 

@@ -22,6 +22,10 @@ import { LensFlares } from './lensflare.js';
 import { Input } from './input.js';
 import { installStyles, showError, showWebGLNotice } from './overlay.js';
 import { methods } from './methods.js';
+import { createOrientation } from './orientation.js';
+import { prepareVR, viewports, vrMethods } from './vr.js';
+import { watchGamepads } from './gamepad.js';
+import { closeOnEscape } from './a11y.js';
 
 // Tiles kept in memory (and as textures) beyond those of the current frame.
 const TILE_CACHE = 300;
@@ -40,6 +44,9 @@ export class Viewer {
     this.locked = false;
     this.playing = false;
     this.elements = new Map();
+    // Called after every drawn frame (instruments that follow the view).
+    this.frameListeners = [];
+    this.vrMode = null;
     this.settleWaiters = [];
     this.handlers = {};
     this.actions = new Map();
@@ -174,7 +181,11 @@ export class Viewer {
       this.elements.set(audio.id || 'gAudio', this.sound);
     }
     createControls(this);
+    createOrientation(this);
     createContextMenu(this);
+    prepareVR(this);
+    watchGamepads(this);
+    closeOnEscape(this);
   }
 
   addElement(element) {
@@ -238,30 +249,47 @@ export class Viewer {
   }
 
   // Draws the current view: the smallest level under the level in use, so that nothing stays
-  // black while tiles load. Returns whether every tile of the level in use is drawn.
-  draw() {
-    const { width, height } = this.size();
-    const ratio = Math.min(window.devicePixelRatio || 1, this.renderer.maxPixelRatio);
-    this.renderer.begin(width, height, ratio);
+  // black while tiles load. Returns whether every tile of the level in use is drawn. `xr` (a WebXR
+  // frame: its framebuffer, size and eyes with their cameras) draws into a headset instead.
+  draw(xr = null) {
+    const { width, height } = xr || this.size();
+    const ratio = xr ? 1 : Math.min(window.devicePixelRatio || 1, this.renderer.maxPixelRatio);
+    this.renderer.begin(width, height, ratio, xr && xr.framebuffer);
     if (width < 1 || height < 1) return true;
-    let placer;
-    let level;
+    this.frameCount = (this.frameCount || 0) + 1;
+    let complete = true;
     if (this.flat) {
       if (!this.flatView) {
         const fit = fitScale(this.image, width, height);
         this.flatView = { x: this.image.width / 2, y: this.image.height / 2, scale: fit };
       }
       this.flatView = clampFlat(this.flatView, this.image, width, height);
-      placer = flatPlacer(this.pyramid, this.flatView, { width, height });
-      level = this.pyramid.levelFor(this.image.width * this.flatView.scale * ratio);
+      const placer = flatPlacer(this.pyramid, this.flatView, { width, height });
+      complete = this.drawLevel(placer, this.pyramid.levelFor(this.image.width * this.flatView.scale * ratio));
     } else {
       this.view = clampSpherical(this.view, this.limits, width, height, this.distortion);
-      this.camera = makeCamera(this.view, width, height, this.distortion);
       this.frame3d = sphericalFrame(this.image, this.node.camera);
-      placer = sphericalPlacer(this.pyramid, this.frame3d, this.camera);
-      const perDegree = (width * ratio) / this.view.hfov;
-      level = this.pyramid.levelFor(perDegree * this.frame3d.hextent);
+      // One area, or one per eye in VR; hotspots follow the first.
+      const eyes = xr ? xr.eyes : viewports(this, width, height);
+      eyes.forEach((eye, i) => {
+        const camera = eye.camera || makeCamera(eye.view, eye.w, eye.h, this.distortion);
+        if (i === 0) this.camera = camera;
+        this.renderer.region(eye.x, eye.y, eye.w, eye.h);
+        const perDegree = (eye.w * ratio) / eye.view.hfov;
+        const placer = sphericalPlacer(this.pyramid, this.frame3d, camera);
+        complete = this.drawLevel(placer, this.pyramid.levelFor(perDegree * this.frame3d.hextent)) && complete;
+      });
     }
+    this.renderer.end();
+    this.pyramid.evict(this.frameCount, TILE_CACHE, (tile) => this.renderer.forget(tile));
+    if (!xr) this.placeOverlays(width, height);
+    for (const listener of this.frameListeners) listener();
+    return complete;
+  }
+
+  // Draws the tiles of `level` that `placer` places, over those of the smallest level; returns
+  // whether all of them were there to draw.
+  drawLevel(placer, level) {
     const wanted = visibleTiles(this.pyramid, level, placer);
     if (level > 0) {
       for (const { tile, mesh } of visibleTiles(this.pyramid, 0, placer)) {
@@ -269,15 +297,11 @@ export class Viewer {
       }
     }
     let complete = true;
-    this.frameCount = (this.frameCount || 0) + 1;
     for (const { tile, mesh } of wanted) {
       tile.used = this.frameCount;
       if (tile.state === 'ready') this.renderer.drawTile(tile, mesh);
       else if (tile.state === 'loading') complete = false;
     }
-    this.renderer.end();
-    this.pyramid.evict(this.frameCount, TILE_CACHE, (tile) => this.renderer.forget(tile));
-    this.placeOverlays(width, height);
     return complete;
   }
 
@@ -430,4 +454,4 @@ export class Viewer {
   }
 }
 
-Object.assign(Viewer.prototype, methods);
+Object.assign(Viewer.prototype, methods, vrMethods);
