@@ -25,7 +25,7 @@ QString readMapsApiKey(const QString &settingsFolder)
 
 bool storeMapsApiKey(const QString &settingsFolder, const QString &apiKey)
 {
-    if (settingsFolder.isEmpty() || apiKey.size() < 10)
+    if (settingsFolder.isEmpty() || apiKey.size() < MIN_MAP_KEY_LENGTH)
         return false;
     return writeIniString(hostIniPath(settingsFolder), MAPS, GAPI_KEY, apiKey);
 }

@@ -39,7 +39,7 @@ void exportMarker(HostContext *host, const char *resource, const QString &target
 
 bool mapKeyUsable(const settings::ViewerSettings &settings)
 {
-    return settings.GmAPIKey.size() >= MIN_MAP_KEY_LENGTH;
+    return settings.GmAPIKey.size() >= settings::MIN_MAP_KEY_LENGTH;
 }
 
 void exportMapMarkers(HostContext *host, const QString &outputFolder)

@@ -1,6 +1,7 @@
 // The map element ("map"), its three actions and its two marker pictures.
 #pragma once
 
+#include "settings/hostini.h"
 #include "settings/viewersettings.h"
 
 #include <vantora/host.h>
@@ -16,9 +17,6 @@ constexpr char MARKER_RESOURCE[] = ":/marker/BMPS/hotspots/marker/marker_redoran
 constexpr char MARKER_ACTIVE_RESOURCE[] = ":/marker/BMPS/hotspots/marker/marker_lima.png";
 constexpr char MARKER_FILE[] = "pap_marker_redorange.png";
 constexpr char MARKER_ACTIVE_FILE[] = "pap_marker_lima.png";
-
-// Google Maps refuses shorter keys; with one the map stays an empty element.
-constexpr int MIN_MAP_KEY_LENGTH = 10;
 
 // Whether the settings' key is one the map can work with.
 bool mapKeyUsable(const settings::ViewerSettings &settings);

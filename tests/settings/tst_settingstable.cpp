@@ -3,6 +3,7 @@
 // of 0 and 1 and each text and rate its own value, so a field moved to another's slot or key
 // shows. VANTORA_WRITE_GOLDEN=1 rewrites the files; review the change before committing it.
 #include "common/textcompare.h"
+#include "settings/inifile.h"
 #include "settings/presetfile.h"
 #include "settings/settingsblock.h"
 #include "settings/settingstable.h"
@@ -60,14 +61,108 @@ QString dataFile(const QString &name)
     return QStringLiteral(VANTORA_TEST_DATA "/") + name;
 }
 
-// The bytes against the reviewed file (or the file replaced, see above).
-void compareWithFile(const QByteArray &actual, const QString &name)
+QString docsFile(const QString &name)
 {
+    return QStringLiteral(VANTORA_TEST_DATA "/../../docs/") + name;
+}
+
+QString kindText(const SettingRow &row)
+{
+    switch (row.kind) {
+    case SettingKind::Bool:
+        return QStringLiteral("flag");
+    case SettingKind::Int:
+        return QStringLiteral("number");
+    case SettingKind::Double:
+        return QStringLiteral("rate");
+    case SettingKind::Colour:
+        return QStringLiteral("colour");
+    case SettingKind::PlainText:
+        return QStringLiteral("text");
+    case SettingKind::CodedText:
+        return QStringLiteral("coded text");
+    case SettingKind::MenuItems:
+        break;
+    }
+    return QString();
+}
+
+QString notesText(const SettingRow &row)
+{
+    QStringList notes;
+    if (row.ini.clampFrom > 0)
+        notes << QStringLiteral("values from %1 on read as %2")
+                     .arg(row.ini.clampFrom)
+                     .arg(row.ini.clampTo);
+    if (row.ini.legacyKey && row.kind == SettingKind::Bool)
+        notes << QStringLiteral("a missing key takes the value of the older key `%1`")
+                     .arg(QLatin1String(row.ini.legacyKey));
+    if (row.ini.legacyKey && row.kind != SettingKind::Bool)
+        notes << QStringLiteral("the older uncoded key `%1` wins when not empty")
+                     .arg(QLatin1String(row.ini.legacyKey));
+    if (row.ini.onlyWhenSet)
+        notes << QStringLiteral("written only when not empty");
+    if (row.ini.defaultText) {
+        const ViewerSettings record;
+        const ContextMenuChoice menu;
+        QString own;
+        visitValue(row, record, menu, [&](const auto &value) {
+            if constexpr (std::is_same_v<std::decay_t<decltype(value)>, int>)
+                own = QString::number(value);
+        });
+        notes << QStringLiteral("a preset without the key reads %1, the record's default is %2")
+                     .arg(QLatin1String(row.ini.defaultText), own);
+    }
+    return notes.join(QStringLiteral("; "));
+}
+
+// The document of every preset key, from the table.
+QByteArray presetsDocument()
+{
+    QString doc = QStringLiteral(
+        "# Preset files\n"
+        "\n"
+        "A preset is an INI file that the settings dialog saves into the folder \"appletSettings\"\n"
+        "beside the host's settings, and that `vantora-export --settings FILE` reads. This list is\n"
+        "generated from the settings table (settings/settingrows.h); a test fails when it is out of\n"
+        "date (regenerate it with VANTORA_WRITE_GOLDEN=1 and the settings tests).\n"
+        "\n"
+        "- Keys stand in the order below; the first three in the section \"Toolbar\", all others in\n"
+        "  \"Applet\". Names of sections and keys are compared ignoring case.\n"
+        "- A flag is written \"0\" or \"1\" and read as true when its text starts with \"TRUE\" or\n"
+        "  \"1\". A number or colour is decimal (a colour is 0xRRGGBB). A rate is written with four\n"
+        "  decimals. A coded text is base64 of the text's UTF-8 bytes; a text is written as it stands.\n"
+        "- A missing key reads its default. Files are written in UTF-16LE; UTF-16, UTF-8 and 8-bit\n"
+        "  files are read.\n"
+        "- The record's file names of the logo and the audio in the output, the context menu's\n"
+        "  entries and a spare flag have no key: the export fills the first two, and the menu keys\n"
+        "  below describe the menu.\n"
+        "\n"
+        "An example: [example-preset.ini](example-preset.ini).\n"
+        "\n"
+        "| Key | Section | Kind | Default | Meaning | Notes |\n"
+        "|---|---|---|---|---|---|\n");
+    for (const SettingRow &row : settingRows()) {
+        if (!row.inPresets())
+            continue;
+        const QString defaultText = iniReadDefault(row);
+        doc += QStringLiteral("| `%1` | %2 | %3 | %4 | %5 | %6 |\n")
+                   .arg(QLatin1String(row.name), QLatin1String(row.ini.section), kindText(row),
+                       defaultText.isEmpty() ? QStringLiteral("empty") : defaultText,
+                       QString::fromUtf8(row.meaning), notesText(row));
+    }
+    return doc.toUtf8();
+}
+
+// The bytes against the reviewed file (or the file replaced, see above).
+void compareWithFile(const QByteArray &actual, const QString &name, bool doc = false)
+{
+    const QString path = doc ? docsFile(name) : dataFile(name);
     if (qEnvironmentVariableIntValue("VANTORA_WRITE_GOLDEN") == 1) {
-        QVERIFY(vantora::test::writeFileBytes(dataFile(name), actual));
+        QVERIFY(vantora::test::writeFileBytes(path, actual));
         return;
     }
-    const QByteArray expected = vantora::test::readFileBytes(dataFile(name));
+    const QByteArray expected = vantora::test::readFileBytes(path);
     const auto parted
         = std::mismatch(actual.begin(), actual.end(), expected.begin(), expected.end());
     QVERIFY2(actual == expected,
@@ -157,6 +252,37 @@ private slots:
         QCOMPARE(changed, keyed);
         QCOMPARE(record.ContextMenuItems, menuItemsOf(preset.menu));
         QVERIFY(!record.ContextMenuSpare);
+    }
+
+    // docs/presets.md is the table's own list of keys.
+    void presetsDocumentIsCurrent() { compareWithFile(presetsDocument(), "presets.md", true); }
+
+    // The example in the documents uses only keys of the table, each in its section, and every
+    // value it sets differs from the default.
+    void examplePresetUsesTableKeys()
+    {
+        const QByteArray bytes = vantora::test::readFileBytes(docsFile("example-preset.ini"));
+        const ini::Index keys = ini::index(ini::decode(bytes).text);
+        QVERIFY(!keys.isEmpty());
+        QStringList known;
+        for (const SettingRow &row : settingRows())
+            if (row.inPresets())
+                known << ini::indexKey(QLatin1String(row.ini.section), QLatin1String(row.name));
+        for (auto it = keys.cbegin(); it != keys.cend(); ++it)
+            QVERIFY2(
+                known.contains(it.key()), qPrintable(QString(it.key()).replace(QChar(0), '/')));
+        Preset example = presetFromBytes(bytes);
+        const Preset defaults = presetFromBytes(QByteArray());
+        int differing = 0;
+        for (const SettingRow &row : settingRows())
+            if (row.inPresets())
+                visitValue(row, example.settings, example.menu, [&](const auto &value) {
+                    visitValue(row, defaults.settings, defaults.menu, [&](const auto &other) {
+                        if constexpr (std::is_same_v<decltype(value), decltype(other)>)
+                            differing += value == other ? 0 : 1;
+                    });
+                });
+        QCOMPARE(differing, keys.size());
     }
 
     // The five menu flags in the order full screen, views, custom, gyro, about; each entry is
