@@ -74,7 +74,10 @@ typedef int32_t (*HostPreviewFn)(HostContext *host, double *pan, double *tilt, d
  * (output folder + page base name + "_tiles", thumbnail base name + "_thumb.jpg" inside it),
  * honouring the JPEG quality at offset 456, and may add members to the panorama node (among them
  * "image", which describes the tiles to the viewer). Returns non-zero on success: the export
- * succeeds only when it does. Called at most once per export. */
+ * succeeds only when it does. Called at most once per export. A host may instead leave the
+ * finished folder under the image-data folder's name + ".vantora-new": the library then moves it
+ * into place together with its own files once the whole export has succeeded (so an interrupted
+ * or failed export never mixes old and new tiles) and removes it when the export fails. */
 typedef uint32_t (*HostWriteTilesFn)(HostContext *host, HostTileRequest *request);
 
 /* Offset 376. Writes the host's compiled-in resource `resourcePath` (it starts with ':') to the

@@ -596,10 +596,14 @@ private slots:
 
         QCOMPARE(exportTo(m_out + "tour.html"), 0ull);
 
-        // Bitmap files are copied beside the page; the host writes its own resources.
+        // Bitmap files are copied beside the page; the host writes its own resources beside
+        // their final names, and they move in with the rest of the export.
         QCOMPARE(readFileBytes(m_out + "link.png"), QByteArray(900, 'l'));
         QCOMPARE(readFileBytes(m_out + "info.png"), QByteArray(700, 'i'));
-        QCOMPARE(g_log.resources, QStringList({":/hotspots/pin.png -> " + m_out + "pap_pin.png"}));
+        QCOMPARE(g_log.resources,
+            QStringList({":/hotspots/pin.png -> " + m_out + "pap_pin.png.vantora-new"}));
+        QCOMPARE(readFileBytes(m_out + "pap_pin.png"), QByteArray("resource"));
+        QVERIFY(!QFile::exists(m_out + "pap_pin.png.vantora-new"));
 
         // The info box inside "hsinfo" is its builder's business; here only its name counts.
         QJsonArray spots
