@@ -134,9 +134,11 @@ bool rollForward(const QVector<Move> &moves)
         const QString staged = stagedPath(move.target);
         if (!platform::pathExists(staged))
             continue; // moved already
-        const bool moved = move.folder
-            ? moveFolderIn(move)
-            : platform::replaceFile(staged, move.target, keptPath(move.target));
+        // A file kept ahead of the moves (keepAhead) needs no second name now.
+        const QString kept = keptPath(move.target);
+        const bool moved = move.folder   ? moveFolderIn(move)
+            : platform::pathExists(kept) ? platform::replaceFile(staged, move.target)
+                                         : platform::replaceFile(staged, move.target, kept);
         if (!moved) {
             qCWarning(lcVantoraExport, "cannot replace %s", qUtf8Printable(move.target));
             return false;
@@ -158,6 +160,13 @@ bool rollBack(const QVector<Move> &moves)
         platform::removeTree(stagedPath(move.target));
     }
     return ok;
+}
+
+void keepAhead(const QVector<Move> &moves)
+{
+    for (const Move &move : moves)
+        if (!move.folder && move.existed)
+            platform::addHardLink(move.target, keptPath(move.target));
 }
 
 void dropKept(const QVector<Move> &moves)

@@ -50,6 +50,10 @@ bool rollForward(const QVector<Move> &moves);
 // Undoes whatever of the moves was done, in reverse order, and removes the staged files. False
 // when something could not be put back.
 bool rollBack(const QVector<Move> &moves);
+// Gives every file that a move will replace its kept name ahead of the moves, where the file
+// system allows a second name: the moves themselves are then single renames, and an export cut
+// short among them leaves as few mixed states as it can. Before the journal is written.
+void keepAhead(const QVector<Move> &moves);
 // Removes the kept files of the moves: the last step of a commit.
 void dropKept(const QVector<Move> &moves);
 

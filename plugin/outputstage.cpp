@@ -170,7 +170,9 @@ bool commit()
     }
     const QString folder = folderOf(stage.entries.constFirst().target);
     const QVector<journal::Move> moves = plannedMoves(stage.entries);
+    journal::keepAhead(moves);
     if (!journal::write(folder, moves, journal::Direction::Forward)) {
+        journal::dropKept(moves);
         discard();
         return false;
     }

@@ -81,7 +81,9 @@ typedef int32_t (*HostPreviewFn)(HostContext *host, double *pan, double *tilt, d
 typedef uint32_t (*HostWriteTilesFn)(HostContext *host, HostTileRequest *request);
 
 /* Offset 376. Writes the host's compiled-in resource `resourcePath` (it starts with ':') to the
- * file `targetPath`. The result is not inspected: a missing bitmap is the viewer's problem. */
+ * file `targetPath`. The result is not inspected: a missing bitmap is the viewer's problem. During
+ * an export `targetPath` is a working name beside the final one (final name + ".vantora-new"); the
+ * library moves the file in with the export's other files. */
 typedef uint32_t (*HostExportResourceFn)(const char16_t *resourcePath, const char16_t *targetPath);
 
 /* Offset 384. The host's user-interface scale factor for `widget` (a QWidget pointer). */

@@ -54,6 +54,10 @@ bool removeFile(const QString &path);
 // Whether `path` itself is a symbolic link (or another reparse point).
 bool isLink(const QString &path);
 
+// Gives the file (or link) `path` the second name `other` without touching it. False where the
+// file system has no such links, or when `other` exists.
+bool addHardLink(const QString &path, const QString &other);
+
 // Whether anything (a file, a folder, a link, even a broken one) has the name `path`.
 bool pathExists(const QString &path);
 

@@ -107,6 +107,11 @@ bool isLink(const QString &path)
     return ::lstat(native(path).constData(), &info) == 0 && S_ISLNK(info.st_mode);
 }
 
+bool addHardLink(const QString &path, const QString &other)
+{
+    return ::link(native(path).constData(), native(other).constData()) == 0;
+}
+
 bool pathExists(const QString &path)
 {
     return exists(native(path));

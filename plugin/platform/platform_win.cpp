@@ -94,6 +94,11 @@ bool isLink(const QString &path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
 }
 
+bool addHardLink(const QString &path, const QString &other)
+{
+    return CreateHardLinkW(wide(other), wide(path), nullptr) != 0;
+}
+
 bool pathExists(const QString &path)
 {
     return GetFileAttributesW(wide(path)) != INVALID_FILE_ATTRIBUTES;

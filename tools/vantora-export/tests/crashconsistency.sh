@@ -81,9 +81,10 @@ else
   [ "$mode" = kill ] && kill=(FAULT_KILL=1)
   for ((n = 1; n <= operations; n++)); do
     rm -rf trial && cp -a old trial
-    env LD_PRELOAD="$shim" FAULT_DIR="$work/trial" FAULT_AT=$n "${kill[@]}" \
+    # In a subshell of its own, so that the shell's note of a killed job stays out of the log.
+    (env LD_PRELOAD="$shim" FAULT_DIR="$work/trial" FAULT_AT=$n "${kill[@]}" \
       "$tool" -o "$work/trial/pano.html" --title new --fit-to-page pictures/new.png \
-      >/dev/null 2>&1 </dev/null || true
+      </dev/null) >/dev/null 2>&1 || true
     judge "$mode at operation $n of $operations" "$([ "$mode" = kill ] && echo yes || echo no)"
   done
   summary="$mode at each of $operations operations"
