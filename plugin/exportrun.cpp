@@ -6,6 +6,7 @@
 #include "hostaccess.h"
 #include "messages.h"
 #include "outputfiles.h"
+#include "outputstage.h"
 #include "platform/platform.h"
 #include "pluginstate.h"
 #include "settings/viewersettings.h"
@@ -84,6 +85,9 @@ std::uint64_t writeExport(HostContext &host)
     const OutputNames names = outputNames(job.baseName, settings.ExtensionJS, job.formatFlags);
     const QString pagePath = folder + names.page;
 
+    // An earlier export cut short in this folder is finished or undone before anything is added.
+    if (!stage::recover(folder))
+        return VANTORA_WRITE_FAILED;
     if (!testWritable(pagePath, parentWindow(host)))
         return VANTORA_WRITE_PAGE_NOT_WRITABLE;
 

@@ -116,6 +116,10 @@ int writeAllFiles(HostContext &host, const WriteRequest &request, std::uint64_t 
     bool written = params::writeViewerParams(input, request.viewerFolder, request.paramsFile,
                        request.controlsFile, galleryFile)
         != 0;
+    // A host that staged its image data beside the folder has it moved in with the rest.
+    const QString base = withoutExtension(request.pageName);
+    const QString tilesFolder = request.imageFolder + base + QStringLiteral("_tiles");
+    stage::adoptStagedFolder(tilesFolder);
 
     if (written) {
         PageInput page;
@@ -130,8 +134,7 @@ int writeAllFiles(HostContext &host, const WriteRequest &request, std::uint64_t 
     }
     written = written && !stage::failed() ? stage::commit() : (stage::discard(), false);
 
-    const QString base = withoutExtension(request.pageName);
-    *imageDataBytes += folderSize(request.imageFolder + base + QStringLiteral("_tiles"));
+    *imageDataBytes += folderSize(tilesFolder);
 
     if (host.close)
         host.close(&host);

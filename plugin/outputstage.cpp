@@ -1,9 +1,11 @@
 #include "outputstage.h"
 
+#include "commitjournal.h"
 #include "exportlog.h"
 #include "platform/platform.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QVector>
 
 #include <algorithm>
@@ -11,16 +13,10 @@
 Q_LOGGING_CATEGORY(lcVantoraExport, "vantora.export", QtCriticalMsg)
 
 namespace vantora::plugin {
-namespace {
-
-const QString STAGED_SUFFIX = QStringLiteral(".vantora-new");
-const QString KEPT_SUFFIX = QStringLiteral(".vantora-old");
-
-} // namespace
 
 bool writeFileAtomically(const QString &path, const QByteArray &bytes)
 {
-    const QString staged = path + STAGED_SUFFIX;
+    const QString staged = journal::stagedPath(path);
     if (platform::writeNewFile(staged, bytes) && platform::replaceFile(staged, path))
         return true;
     platform::removeFile(staged);
@@ -33,18 +29,12 @@ bool writeFileAtomically(const QString &path, const QByteArray &bytes)
 namespace vantora::plugin::stage {
 namespace {
 
-struct Entry
-{
-    QString target;
-    bool replaced = false; // an earlier file was moved to the kept name
-};
-
 struct Stage
 {
     bool open = false;
     bool failed = false;
     QStringList reserved;
-    QVector<Entry> entries;
+    QVector<journal::Move> entries; // in the order written
 };
 
 Stage &current()
@@ -53,18 +43,43 @@ Stage &current()
     return stage;
 }
 
-void removeStaged(const Stage &stage)
-{
-    for (const Entry &entry : stage.entries)
-        platform::removeFile(entry.target + STAGED_SUFFIX);
-}
-
 bool fail(const char *what, const QString &path)
 {
     qCWarning(lcVantoraExport, "%s %s", what, qUtf8Printable(path));
     if (current().open)
         current().failed = true;
     return false;
+}
+
+void addEntry(const QString &path, bool folder)
+{
+    QVector<journal::Move> &entries = current().entries;
+    const bool known = std::any_of(entries.cbegin(), entries.cend(),
+        [&](const journal::Move &entry) { return entry.target == path; });
+    if (!known)
+        entries.append({path, folder, false});
+}
+
+QString folderOf(const QString &path)
+{
+    const int cut
+        = std::max(path.lastIndexOf(QLatin1Char('/')), path.lastIndexOf(QLatin1Char('\\')));
+    return path.left(cut + 1);
+}
+
+// The image data first, so that the page, moved last, never names tiles not yet in place; the
+// files in the order they were written, which ends with the parameter file and the page.
+QVector<journal::Move> plannedMoves(const QVector<journal::Move> &entries)
+{
+    QVector<journal::Move> moves = entries;
+    std::stable_partition(
+        moves.begin(), moves.end(), [](const journal::Move &move) { return move.folder; });
+    for (journal::Move &move : moves) {
+        move.existed = platform::pathExists(move.target);
+        // A kept name left by an earlier run would be taken for this one's.
+        platform::removeTree(journal::keptPath(move.target));
+    }
+    return moves;
 }
 
 } // namespace
@@ -82,12 +97,9 @@ bool writeFile(const QString &path, const QByteArray &bytes)
     Stage &stage = current();
     if (!stage.open)
         return writeFileAtomically(path, bytes);
-    if (!platform::writeNewFile(path + STAGED_SUFFIX, bytes))
+    if (!platform::writeNewFile(journal::stagedPath(path), bytes))
         return fail("cannot write", path);
-    const bool known = std::any_of(stage.entries.cbegin(), stage.entries.cend(),
-        [&](const Entry &entry) { return entry.target == path; });
-    if (!known)
-        stage.entries.append(Entry {path});
+    addEntry(path, false);
     return true;
 }
 
@@ -105,6 +117,32 @@ bool copyFile(const QString &from, const QString &to)
     if (source.error() != QFileDevice::NoError)
         return false;
     return writeFile(to, bytes);
+}
+
+void writeByHost(const QString &path, const std::function<void(const QString &target)> &write)
+{
+    if (isReserved(path))
+        return;
+    if (!current().open) {
+        write(path);
+        return;
+    }
+    // Whatever has the staged name goes first, so the host never writes through a planted link.
+    const QString staged = journal::stagedPath(path);
+    if (!platform::removeTree(staged))
+        return;
+    write(staged);
+    if (QFileInfo(staged).isFile() && !platform::isLink(staged))
+        addEntry(path, false);
+    else
+        platform::removeTree(staged);
+}
+
+void adoptStagedFolder(const QString &path)
+{
+    const QString staged = journal::stagedPath(path);
+    if (current().open && !platform::isLink(staged) && QFileInfo(staged).isDir())
+        addEntry(path, true);
 }
 
 void reportFailure(const QString &path)
@@ -125,40 +163,47 @@ bool failed()
 bool commit()
 {
     Stage &stage = current();
-    if (stage.failed) {
+    if (stage.failed || stage.entries.isEmpty()) {
+        const bool done = !stage.failed;
+        discard();
+        return done;
+    }
+    const QString folder = folderOf(stage.entries.constFirst().target);
+    const QVector<journal::Move> moves = plannedMoves(stage.entries);
+    journal::keepAhead(moves);
+    if (!journal::write(folder, moves, journal::Direction::Forward)) {
+        journal::dropKept(moves);
         discard();
         return false;
     }
-    int moved = 0;
-    for (; moved < stage.entries.size(); ++moved) {
-        Entry &entry = stage.entries[moved];
-        entry.replaced = QFile::exists(entry.target) || platform::isLink(entry.target);
-        if (!platform::replaceFile(
-                entry.target + STAGED_SUFFIX, entry.target, entry.target + KEPT_SUFFIX)) {
-            fail("cannot replace", entry.target);
-            break;
-        }
+    if (journal::rollForward(moves)) {
+        journal::dropKept(moves);
+        journal::remove(folder);
+        stage = Stage();
+        return true;
     }
-    const bool done = moved == stage.entries.size();
-    // Undo in reverse order, so the folder ends as it was before the export.
-    for (int i = done ? -1 : moved - 1; i >= 0; --i) {
-        const Entry &entry = stage.entries.at(i);
-        if (entry.replaced)
-            platform::replaceFile(entry.target + KEPT_SUFFIX, entry.target);
-        else
-            platform::removeFile(entry.target);
+    // Undone at once; should that fail or be cut short, the journal, marked first, has the next
+    // run finish the undoing.
+    journal::write(folder, moves, journal::Direction::Back);
+    if (journal::rollBack(moves)) {
+        journal::dropKept(moves);
+        journal::remove(folder);
     }
-    for (const Entry &entry : qAsConst(stage.entries))
-        platform::removeFile(entry.target + KEPT_SUFFIX);
-    discard();
-    return done;
+    stage = Stage();
+    return false;
 }
 
 void discard()
 {
     Stage &stage = current();
-    removeStaged(stage);
+    for (const journal::Move &entry : qAsConst(stage.entries))
+        platform::removeTree(journal::stagedPath(entry.target));
     stage = Stage();
+}
+
+bool recover(const QString &folder)
+{
+    return journal::recover(folder);
 }
 
 } // namespace vantora::plugin::stage

@@ -3,6 +3,7 @@
 #include "infobox.h"
 #include "plugin/cformat.h"
 #include "plugin/hostaccess.h"
+#include "plugin/hostresource.h"
 #include "plugin/outputstage.h"
 #include "plugin/paths.h"
 #include "scripttexts.h"
@@ -78,10 +79,7 @@ QString exportBitmap(
     const QString fileName = plugin::fileNamePart(bitmapPath);
     if (bitmapPath.startsWith(QLatin1Char(':'))) {
         const QString target = QStringLiteral("pap_") + fileName;
-        const QString targetPath = outputFolder + target;
-        if (host.exportResource)
-            host.exportResource(reinterpret_cast<const char16_t *>(bitmapPath.utf16()),
-                reinterpret_cast<const char16_t *>(targetPath.utf16()));
+        plugin::exportHostResource(&host, bitmapPath, outputFolder + target);
         return target;
     }
     const QString targetPath = outputFolder + fileName;

@@ -3,6 +3,7 @@
 #include "actions.h"
 #include "design.h"
 #include "elementtexts.h"
+#include "plugin/hostresource.h"
 #include "resources/resources.h"
 
 #include <iterator>
@@ -26,15 +27,6 @@ constexpr PerDesign<const char *> CONTENT_STYLES = perDesign<const char *>({
 constexpr const char *MAP_TYPES[] = {"hybrid", "satellite", "roadmap", "osm"};
 // clang-format on
 
-void exportMarker(HostContext *host, const char *resource, const QString &target)
-{
-    if (!host || !host->exportResource)
-        return;
-    const QString source = QLatin1String(resource);
-    host->exportResource(reinterpret_cast<const char16_t *>(source.utf16()),
-        reinterpret_cast<const char16_t *>(target.utf16()));
-}
-
 } // namespace
 
 bool mapKeyUsable(const settings::ViewerSettings &settings)
@@ -45,8 +37,10 @@ bool mapKeyUsable(const settings::ViewerSettings &settings)
 void exportMapMarkers(HostContext *host, const QString &outputFolder)
 {
     resources::ensureRegistered();
-    exportMarker(host, MARKER_RESOURCE, outputFolder + QLatin1String(MARKER_FILE));
-    exportMarker(host, MARKER_ACTIVE_RESOURCE, outputFolder + QLatin1String(MARKER_ACTIVE_FILE));
+    plugin::exportHostResource(
+        host, QLatin1String(MARKER_RESOURCE), outputFolder + QLatin1String(MARKER_FILE));
+    plugin::exportHostResource(host, QLatin1String(MARKER_ACTIVE_RESOURCE),
+        outputFolder + QLatin1String(MARKER_ACTIVE_FILE));
 }
 
 QJsonObject buildMapElement(

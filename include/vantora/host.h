@@ -74,11 +74,16 @@ typedef int32_t (*HostPreviewFn)(HostContext *host, double *pan, double *tilt, d
  * (output folder + page base name + "_tiles", thumbnail base name + "_thumb.jpg" inside it),
  * honouring the JPEG quality at offset 456, and may add members to the panorama node (among them
  * "image", which describes the tiles to the viewer). Returns non-zero on success: the export
- * succeeds only when it does. Called at most once per export. */
+ * succeeds only when it does. Called at most once per export. A host may instead leave the
+ * finished folder under the image-data folder's name + ".vantora-new": the library then moves it
+ * into place together with its own files once the whole export has succeeded (so an interrupted
+ * or failed export never mixes old and new tiles) and removes it when the export fails. */
 typedef uint32_t (*HostWriteTilesFn)(HostContext *host, HostTileRequest *request);
 
 /* Offset 376. Writes the host's compiled-in resource `resourcePath` (it starts with ':') to the
- * file `targetPath`. The result is not inspected: a missing bitmap is the viewer's problem. */
+ * file `targetPath`. The result is not inspected: a missing bitmap is the viewer's problem. During
+ * an export `targetPath` is a working name beside the final one (final name + ".vantora-new"); the
+ * library moves the file in with the export's other files. */
 typedef uint32_t (*HostExportResourceFn)(const char16_t *resourcePath, const char16_t *targetPath);
 
 /* Offset 384. The host's user-interface scale factor for `widget` (a QWidget pointer). */

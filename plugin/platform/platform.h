@@ -54,6 +54,24 @@ bool removeFile(const QString &path);
 // Whether `path` itself is a symbolic link (or another reparse point).
 bool isLink(const QString &path);
 
+// Gives the file (or link) `path` the second name `other` without touching it. False where the
+// file system has no such links, or when `other` exists.
+bool addHardLink(const QString &path, const QString &other);
+
+// Whether anything (a file, a folder, a link, even a broken one) has the name `path`.
+bool pathExists(const QString &path);
+
+// Renames a file, folder or link (never what a link points to) in one step. False when nothing
+// was moved; something else already named `to` is never replaced.
+bool renamePath(const QString &from, const QString &to);
+
+// Removes whatever `path` is: a file or a link (never what it points to), or a folder with
+// everything in it, links inside removed as links. True when nothing is left at `path`.
+bool removeTree(const QString &path);
+
+// Makes the renames and removals inside `folder` durable (where the system needs to be told).
+void syncFolder(const QString &folder);
+
 // The bytes of a text as a text-mode file holds them: line feeds become the platform's line end.
 QByteArray withPlatformLineEnds(const QByteArray &text);
 

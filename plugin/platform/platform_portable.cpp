@@ -4,6 +4,7 @@
 #include "settings/inifile.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
@@ -104,6 +105,45 @@ bool isLink(const QString &path)
 {
     struct stat info;
     return ::lstat(native(path).constData(), &info) == 0 && S_ISLNK(info.st_mode);
+}
+
+bool addHardLink(const QString &path, const QString &other)
+{
+    return ::link(native(path).constData(), native(other).constData()) == 0;
+}
+
+bool pathExists(const QString &path)
+{
+    return exists(native(path));
+}
+
+bool renamePath(const QString &from, const QString &to)
+{
+    const QByteArray target = native(to);
+    if (exists(target))
+        return false;
+    return ::rename(native(from).constData(), target.constData()) == 0;
+}
+
+bool removeTree(const QString &path)
+{
+    struct stat info;
+    const QByteArray name = native(path);
+    if (::lstat(name.constData(), &info) != 0)
+        return errno == ENOENT;
+    if (!S_ISDIR(info.st_mode))
+        return ::unlink(name.constData()) == 0;
+    // Qt removes the links inside a folder as links: the removal never leaves it.
+    return QDir(path).removeRecursively();
+}
+
+void syncFolder(const QString &folder)
+{
+    const int fd = ::open(native(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    ::fsync(fd);
+    ::close(fd);
 }
 
 QByteArray withPlatformLineEnds(const QByteArray &text)

@@ -6,6 +6,8 @@
 
 #include <shellapi.h>
 
+#include <QDir>
+
 #include <vector>
 
 namespace vantora::platform {
@@ -90,6 +92,44 @@ bool isLink(const QString &path)
 {
     const DWORD attributes = GetFileAttributesW(wide(path));
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+}
+
+bool addHardLink(const QString &path, const QString &other)
+{
+    return CreateHardLinkW(wide(other), wide(path), nullptr) != 0;
+}
+
+bool pathExists(const QString &path)
+{
+    return GetFileAttributesW(wide(path)) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool renamePath(const QString &from, const QString &to)
+{
+    // Without MOVEFILE_REPLACE_EXISTING: a folder is never moved over anything.
+    return MoveFileExW(wide(from), wide(to), MOVEFILE_WRITE_THROUGH) != 0;
+}
+
+bool removeTree(const QString &path)
+{
+    const DWORD attributes = GetFileAttributesW(wide(path));
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return true;
+    if (attributes & FILE_ATTRIBUTE_REPARSE_POINT) {
+        // A link or junction goes as itself, whatever it points to.
+        if (attributes & FILE_ATTRIBUTE_DIRECTORY)
+            return RemoveDirectoryW(wide(path)) != 0;
+        return removeFile(path);
+    }
+    if (!(attributes & FILE_ATTRIBUTE_DIRECTORY))
+        return removeFile(path);
+    // Qt removes the links and junctions inside a folder as links: the removal never leaves it.
+    return QDir(path).removeRecursively();
+}
+
+void syncFolder(const QString &)
+{
+    // The moves are made with MOVEFILE_WRITE_THROUGH: nothing is left to flush.
 }
 
 QByteArray withPlatformLineEnds(const QByteArray &text)

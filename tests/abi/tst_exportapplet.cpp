@@ -572,6 +572,34 @@ private slots:
             QCOMPARE(view.value("hfov").toDouble(), q.hfov);
     }
 
+    // Hotspot bitmaps named like the export's own files are left to those files.
+    void bitmapsNeverReplaceTheExportsFiles()
+    {
+        QVERIFY(QDir().mkpath(m_bench->root + "bitmaps"));
+        std::vector<std::u16string> paths;
+        std::vector<HostHotspot> spots;
+        for (const char *name :
+            {"vantoViewer.js", "tour.json", "tour_controls.json", "tour.html"}) {
+            const QString file = m_bench->root + "bitmaps/" + name;
+            QVERIFY(writeFileBytes(file, "bitmap"));
+            paths.push_back(file.toStdU16String());
+        }
+        for (const std::u16string &path : paths)
+            spots.push_back(
+                {nullptr, nullptr, nullptr, nullptr, 1, 0, {0.5, 0.5}, 0, path.c_str()});
+        std::vector<HostHotspot *> entries;
+        for (HostHotspot &spot : spots)
+            entries.push_back(&spot);
+        const HostHotspotList list = {entries.data(), entries.data() + entries.size()};
+        m_host->put(at::Hotspots, &list);
+
+        QCOMPARE(exportTo(m_out + "tour.html"), 0ull);
+        QCOMPARE(readFileBytes(m_out + "vantoViewer.js"), readFileBytes(m_bench->viewerScript));
+        for (const char *name : {"tour.json", "tour_controls.json"})
+            QVERIFY2(readFileBytes(m_out + name).startsWith("VantoraViewerParams = "), name);
+        QVERIFY(readFileBytes(m_out + "tour.html").startsWith("<!DOCTYPE HTML>"));
+    }
+
     void hotspots()
     {
         const QString infoFile = m_bench->root + "info.png", linkFile = m_bench->root + "link.png";
@@ -596,10 +624,14 @@ private slots:
 
         QCOMPARE(exportTo(m_out + "tour.html"), 0ull);
 
-        // Bitmap files are copied beside the page; the host writes its own resources.
+        // Bitmap files are copied beside the page; the host writes its own resources beside
+        // their final names, and they move in with the rest of the export.
         QCOMPARE(readFileBytes(m_out + "link.png"), QByteArray(900, 'l'));
         QCOMPARE(readFileBytes(m_out + "info.png"), QByteArray(700, 'i'));
-        QCOMPARE(g_log.resources, QStringList({":/hotspots/pin.png -> " + m_out + "pap_pin.png"}));
+        QCOMPARE(g_log.resources,
+            QStringList({":/hotspots/pin.png -> " + m_out + "pap_pin.png.vantora-new"}));
+        QCOMPARE(readFileBytes(m_out + "pap_pin.png"), QByteArray("resource"));
+        QVERIFY(!QFile::exists(m_out + "pap_pin.png.vantora-new"));
 
         // The info box inside "hsinfo" is its builder's business; here only its name counts.
         QJsonArray spots

@@ -1,5 +1,7 @@
 #include "hostrecord.h"
 
+#include "filesystem.h"
+
 #include "locationfiller.h"
 #include "resourceexporter.h"
 #include "tilewriter.h"
@@ -83,6 +85,12 @@ HostRecord::HostRecord(const PageJob &job)
     host.nonInteractive = job.parentWindow ? 0 : 1;
 }
 
+void HostRecord::finishTiles()
+{
+    if (!m_tiles.stagedFolder.isEmpty())
+        removePath(m_tiles.stagedFolder);
+}
+
 HostRecord &HostRecord::ownerOf(HostContext *host)
 {
     return *reinterpret_cast<Record *>(host)->owner;
@@ -112,7 +120,7 @@ std::uint32_t HostRecord::writeTiles(HostContext *host, HostTileRequest *request
     clock.start();
     TileResult result = writeTilePyramid(job);
     outcome.elapsedMs = clock.elapsed();
-    outcome.swap = result.swap;
+    outcome.stagedFolder = stagedTilesFolder(job.tilesFolder);
     if (!result.ok) {
         outcome.error = result.error;
         return 0;

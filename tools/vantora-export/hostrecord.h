@@ -6,7 +6,6 @@
 #include "options.h"
 #include "pageframe.h"
 #include "sourceimage.h"
-#include "tileswap.h"
 
 #include <vantora/host.h>
 
@@ -45,7 +44,7 @@ struct TileOutcome
     bool ok = false;
     QString error;
     qint64 elapsedMs = 0; // wall time spent cutting tiles
-    TileSwap swap;        // the levels moved in, until the export's outcome is known
+    QString stagedFolder; // the finished image data, until the library has moved it in
 };
 
 class HostRecord
@@ -57,9 +56,9 @@ public:
 
     HostContext *context() { return &m_record.context; }
     const TileOutcome &tiles() const { return m_tiles; }
-    // Once the library has answered: a successful export keeps the new tiles, a failed one puts
-    // the earlier export's tiles back.
-    void finishTiles(bool exported) { exported ? m_tiles.swap.keep() : m_tiles.swap.restore(); }
+    // Once the library has answered: it has moved the new image data in with the page, or
+    // dropped it with the rest of a failed export; whatever it left is not published.
+    void finishTiles();
 
 private:
     // The library hands back only the HostContext pointer; the record starts with it, so the

@@ -4,6 +4,7 @@
 #include "hostrecord.h"
 #include "librarysession.h"
 #include "options.h"
+#include "plugin/outputstage.h"
 #include "report.h"
 #include "resources/resources.h"
 #include "settingsfile.h"
@@ -102,6 +103,16 @@ int main(int argc, char *argv[])
     case ParseResult::Run:
         break;
     }
+    // The library's own recovery, run before anything is planned, read or measured.
+    const QString outputFolder = QFileInfo(options.pagePath).absolutePath() + QLatin1Char('/');
+    if (options.recoverOnly || QFileInfo(outputFolder).isDir()) {
+        if (!vantora::plugin::stage::recover(outputFolder))
+            return fail(EXIT_EXPORT_FAILED,
+                QStringLiteral("cannot finish or undo the export cut short in %1")
+                    .arg(QDir::toNativeSeparators(outputFolder)));
+        if (options.recoverOnly)
+            return 0;
+    }
     if (!initImageLibrary(argv[0]))
         return fail(EXIT_EXPORT_FAILED, QStringLiteral("cannot start the image library"));
 
@@ -135,6 +146,7 @@ int main(int argc, char *argv[])
     }
     QTextStream out(stdout);
     QStringList pageLines;
+    QStringList writtenPages;
     ProgressLine progress(stderrIsTerminal());
     qint64 exportMs = 0;
     qint64 tilesMs = 0;
@@ -166,7 +178,7 @@ int main(int argc, char *argv[])
         tilesMs += host.tiles().elapsedMs;
         progress.finish();
         const bool exported = outcome.result == VANTORA_WRITE_DONE && !outcome.pagePath.isEmpty();
-        host.finishTiles(exported);
+        host.finishTiles();
         // Cancelled in the dialog: the library wrote nothing, and neither did the tool.
         if (options.interactive && outcome.result == VANTORA_WRITE_DONE
             && outcome.pagePath.isEmpty()) {
@@ -175,16 +187,25 @@ int main(int argc, char *argv[])
             return 0;
         }
         if (!exported) {
-            // A failed export leaves nothing of this run behind.
-            removeNewFiles(folder, before);
+            // The library left this page's files as they were; the pages before it are whole new
+            // exports and stay, named in the one line.
             removeCreatedFolders(plan);
             QString reason = LibrarySession::describeResult(outcome.result);
             if (host.tiles().called && !host.tiles().ok)
                 reason
                     = QStringLiteral("tiles of %1: %2").arg(page.source.name, host.tiles().error);
+            for (const QString &line : qAsConst(pageLines))
+                out << line << '\n';
+            out.flush();
             return fail(EXIT_EXPORT_FAILED,
-                QStringLiteral("export of %1 failed: %2").arg(page.source.name, reason));
+                QStringLiteral("export of %1 failed: %2; %3")
+                    .arg(page.source.name, reason,
+                        writtenPages.isEmpty()
+                            ? QStringLiteral("no page was written")
+                            : QStringLiteral("written before it: %1")
+                                  .arg(writtenPages.join(QStringLiteral(", ")))));
         }
+        writtenPages.append(QDir::toNativeSeparators(outcome.pagePath));
         pageLines.append(
             QStringLiteral("page: %1  (%2, %3x%4, %5, start view pan %6 tilt %7 hfov %8)")
                 .arg(QDir::toNativeSeparators(outcome.pagePath), page.source.name)
@@ -198,7 +219,6 @@ int main(int argc, char *argv[])
                 .arg(outcome.view.tilt)
                 .arg(outcome.view.hfov));
     }
-    // Printed once every page is done: a failed tour names no page as written.
     for (const QString &line : qAsConst(pageLines))
         out << line << '\n';
     // In the dialog the user may have chosen another folder; the summary covers the proposed one.

@@ -56,7 +56,10 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         "Exports pictures as interactive web pages through the Vantora web export library.\n"
         "Without IMAGE it exports the embedded sample panorama. With several images it writes a\n"
         "tour into one folder: the first page is OUT.html, every further page is named after its\n"
-        "image."));
+        "image. Each page is replaced as a whole or not at all: when a page of a tour fails, the\n"
+        "pages before it stay written (the message names them), that page and the ones after it\n"
+        "keep what the folder held. An export cut short (killed, power lost) is finished or undone\n"
+        "by the next run into the same folder, or by --recover."));
     parser.addPositionalArgument(QStringLiteral("IMAGE"),
         QStringLiteral("Pictures to export (JPEG, PNG, TIFF, ...)."),
         QStringLiteral("[IMAGE ...]"));
@@ -111,8 +114,11 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
     const QCommandLineOption interactive(QStringLiteral("interactive"),
         QStringLiteral("Shows the library's export dialog on the desktop, as a panorama "
                        "application does: OUT.html is only proposed there. One image at most."));
+    const QCommandLineOption recover(QStringLiteral("recover"),
+        QStringLiteral("Only finishes or undoes an export cut short in the folder of OUT.html, "
+                       "leaving the old export or the new one, whole; exports nothing."));
     parser.addOptions({help, output, flat, hextent, vextent, quality, maxPixels, pageSize, fit,
-        hotspots, location, settingsFile, title, install, library, interactive});
+        hotspots, location, settingsFile, title, install, library, interactive, recover});
 
     auto error = [message](const QString &text) {
         *message = text;
@@ -133,6 +139,9 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         return error(QStringLiteral("--output must name an .html file"));
     options->pagePath = page.absoluteFilePath();
     options->images = parser.positionalArguments();
+    options->recoverOnly = parser.isSet(recover);
+    if (options->recoverOnly && !options->images.isEmpty())
+        return error(QStringLiteral("--recover exports nothing: give it no image"));
     options->flat = parser.isSet(flat);
 
     if (parser.isSet(hextent) && !parseExtent(parser.value(hextent), 360.0, &options->hextent))

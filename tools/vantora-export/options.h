@@ -33,6 +33,7 @@ struct CliOptions
     std::optional<QString> title; // replaces the settings' title
     std::optional<Location> location;
     bool interactive = false; // the library's dialogs choose; --output is only proposed
+    bool recoverOnly = false; // finish or undo an interrupted export in OUT's folder, nothing else
     QString installFolder;    // ends in a separator
     QString libraryPath;
 };

@@ -123,24 +123,4 @@ void printSummary(QTextStream &out, const QString &folder, const FolderSnapshot 
     out << QStringLiteral("  %1  in %2 files\n").arg(humanSize(total), 10).arg(count);
 }
 
-void removeNewFiles(const QString &folder, const FolderSnapshot &before)
-{
-    const QDir base(folder);
-    const FolderSnapshot now = snapshotFolder(folder);
-    QStringList folders;
-    for (auto it = now.cbegin(); it != now.cend(); ++it) {
-        if (before.contains(it.key()))
-            continue;
-        if (it.key().endsWith(QLatin1Char('/')))
-            folders.append(it.key());
-        else
-            QFile::remove(base.filePath(it.key()));
-    }
-    // Deepest first, so that a parent is empty by the time it is tried; rmdir keeps non-empty ones.
-    std::sort(folders.begin(), folders.end(),
-        [](const QString &a, const QString &b) { return a.size() > b.size(); });
-    for (const QString &path : folders)
-        base.rmdir(path);
-}
-
 } // namespace vantora::cli

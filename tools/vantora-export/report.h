@@ -1,5 +1,5 @@
 // What the user sees on the terminal: a progress line while tiles are written, the files of the
-// run with their sizes at the end, and the undoing of a run that failed.
+// run with their sizes at the end.
 #pragma once
 
 #include <QHash>
@@ -35,8 +35,5 @@ FolderSnapshot snapshotFolder(const QString &folder);
 // ("*_tiles") as one line with its file count and total, then the total of the run.
 void printSummary(QTextStream &out, const QString &folder, const FolderSnapshot &before,
     const FolderSnapshot &after);
-
-// Removes the files that `before` did not hold, and the folders that become empty by that.
-void removeNewFiles(const QString &folder, const FolderSnapshot &before);
 
 } // namespace vantora::cli

@@ -1,5 +1,7 @@
 #include "tilewriter.h"
 
+#include "filesystem.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -124,6 +126,30 @@ bool isComplete(const QString &stagedLevels, const QVector<PyramidLevel> &levels
     return true;
 }
 
+// Gathers the levels and the thumbnail, by renames, into the folder that takes the place of the
+// image-data folder: exactly what the page needs, nothing of the image library's own.
+bool assemble(const QString &tilesFolder, const QString &stagedLevels, int levelCount,
+    const QString &stagedThumbnail, const QString &thumbnail, QString *error)
+{
+    const QString folder = stagedTilesFolder(tilesFolder);
+    if (!removePath(folder) || !QDir().mkdir(folder)) {
+        *error = QStringLiteral("cannot make the folder %1").arg(QDir::toNativeSeparators(folder));
+        return false;
+    }
+    const QDir target(folder);
+    bool moved = true;
+    for (int level = 0; moved && level < levelCount; ++level)
+        moved = QDir().rename(stagedLevels + QLatin1Char('/') + QString::number(level),
+            target.filePath(QString::number(level)));
+    moved = moved && QDir().rename(stagedThumbnail, target.filePath(thumbnail));
+    if (!moved) {
+        *error
+            = QStringLiteral("cannot gather the tiles in %1").arg(QDir::toNativeSeparators(folder));
+        removePath(folder);
+    }
+    return moved;
+}
+
 } // namespace
 
 TileResult writeTilePyramid(const TileJob &job)
@@ -183,8 +209,8 @@ TileResult writeTilePyramid(const TileJob &job)
     const bool complete = isComplete(stagedLevels, result.levels, &result.error)
         && QFileInfo(stagedThumbnail).size() > 0;
     if (complete && result.error.isEmpty())
-        result.ok = result.swap.swapIn(job.tilesFolder, stagedLevels, result.levels.size(),
-            stagedThumbnail, thumbnailName(job.identifier), &result.error);
+        result.ok = assemble(job.tilesFolder, stagedLevels, result.levels.size(), stagedThumbnail,
+            thumbnailName(job.identifier), &result.error);
     else if (result.error.isEmpty())
         result.error = QStringLiteral("the thumbnail was not written");
     removePath(stagingFolder);

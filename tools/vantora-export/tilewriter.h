@@ -3,7 +3,6 @@
 
 #include "sourceimage.h"
 #include "tilepyramid.h"
-#include "tileswap.h"
 
 #include <QString>
 #include <QVector>
@@ -28,12 +27,12 @@ struct TileResult
     bool ok = false;
     QString error; // one line when !ok
     QVector<PyramidLevel> levels;
-    TileSwap swap; // keep() once the export succeeded, restore() when it failed
 };
 
-// Writes `tilesFolder`/<level>/<column>_<row>.jpg, level 0 the smallest, and the thumbnail: cut
-// into a staging folder, counted, then moved in by renames (see TileSwap). Streams the source, so
-// memory stays bounded whatever the picture's size.
+// Writes the image-data folder <level>/<column>_<row>.jpg, level 0 the smallest, and the
+// thumbnail: cut into a staging folder, counted, then assembled as stagedTilesFolder(tilesFolder)
+// for the library to move in with the export's other files. Streams the source, so memory stays
+// bounded whatever the picture's size.
 TileResult writeTilePyramid(const TileJob &job);
 
 } // namespace vantora::cli
