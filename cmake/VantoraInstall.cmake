@@ -48,6 +48,7 @@ install(FILES ${PROJECT_BINARY_DIR}/VantoraExportConfig.cmake
 # host loads the library instead of linking it.
 # The prefix is found from the file's own place, as for the CMake package.
 file(RELATIVE_PATH VANTORA_PC_TO_PREFIX /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+string(REGEX REPLACE "/$" "" VANTORA_PC_TO_PREFIX "${VANTORA_PC_TO_PREFIX}")
 configure_file(cmake/vantora-export.pc.in ${PROJECT_BINARY_DIR}/vantora-export.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/vantora-export.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)

@@ -1,6 +1,6 @@
-/* The smallest host: loads the installed library, hands it a panorama without tiles and a target
- * path, runs one export without a dialog and says where the page is. Usage: consumer OUT.html
- * SETTINGS_FOLDER/ */
+/* The smallest host: loads the installed library, hands it a panorama and a target path, runs one
+ * export without a dialog and says where the page is. Its tile writer writes a one-pixel grey
+ * panorama, a single tile that is also the thumbnail. Usage: consumer OUT.html SETTINGS_FOLDER/ */
 #include <vantora/host.h>
 #include <vantora/version.h>
 
@@ -8,6 +8,7 @@
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <sys/stat.h>
 
 enum { BUFFER_CHARS = 32768 };
 
@@ -33,6 +34,53 @@ static void narrow(char *to, const char16_t *from, size_t room)
     to[i] = 0;
 }
 
+/* A 1 x 1 grey baseline JPEG. */
+static const unsigned char GREY_PIXEL[] = {0xff, 0xd8, 0xff, 0xdb, 0x00, 0x43, 0x00, 0x06, 0x04,
+    0x05, 0x06, 0x05, 0x04, 0x06, 0x06, 0x05, 0x06, 0x07, 0x07, 0x06, 0x08, 0x0a, 0x10, 0x0a, 0x0a,
+    0x09, 0x09, 0x0a, 0x14, 0x0e, 0x0f, 0x0c, 0x10, 0x17, 0x14, 0x18, 0x18, 0x17, 0x14, 0x16, 0x16,
+    0x1a, 0x1d, 0x25, 0x1f, 0x1a, 0x1b, 0x23, 0x1c, 0x16, 0x16, 0x20, 0x2c, 0x20, 0x23, 0x26, 0x27,
+    0x29, 0x2a, 0x29, 0x19, 0x1f, 0x2d, 0x30, 0x2d, 0x28, 0x30, 0x25, 0x28, 0x29, 0x28, 0xff, 0xc0,
+    0x00, 0x0b, 0x08, 0x00, 0x01, 0x00, 0x01, 0x01, 0x01, 0x11, 0x00, 0xff, 0xc4, 0x00, 0x14, 0x00,
+    0x01, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,
+    0x00, 0xff, 0xc4, 0x00, 0x14, 0x10, 0x01, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00,
+    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xff, 0xda, 0x00, 0x08, 0x01, 0x01, 0x00, 0x00, 0x3f,
+    0x00, 0x3f, 0xff, 0xd9};
+
+static int writeFile(const char *path)
+{
+    FILE *file = fopen(path, "wb");
+    if (!file)
+        return 0;
+    const int written = fwrite(GREY_PIXEL, sizeof GREY_PIXEL, 1, file) == 1;
+    return fclose(file) == 0 && written;
+}
+
+static uint32_t writeTiles(HostContext *host, HostTileRequest *request)
+{
+    (void)host;
+    char folder[BUFFER_CHARS], id[256], path[BUFFER_CHARS + 512], image[2048];
+    narrow(folder, request->outputFolder, sizeof folder);
+    narrow(id, request->identifier, sizeof id);
+    snprintf(path, sizeof path, "%s%s_tiles", folder, id);
+    mkdir(path, 0755);
+    snprintf(path, sizeof path, "%s%s_tiles/0", folder, id);
+    mkdir(path, 0755);
+    snprintf(path, sizeof path, "%s%s_tiles/0/0_0.jpg", folder, id);
+    if (!writeFile(path))
+        return 0;
+    snprintf(path, sizeof path, "%s%s_tiles/%s_thumb.jpg", folder, id, id);
+    if (!writeFile(path))
+        return 0;
+    snprintf(image, sizeof image,
+        "{\"type\":\"tiles\",\"projection\":\"equirectangular\",\"width\":1,\"height\":1,"
+        "\"tilesize\":512,\"url\":\"%s_tiles/{level}/{column}_{row}.jpg\","
+        "\"thumbnail\":\"%s_tiles/%s_thumb.jpg\","
+        "\"levels\":[{\"width\":1,\"height\":1,\"columns\":1,\"rows\":1}],"
+        "\"hextent\":360,\"vextent\":180}",
+        id, id, id);
+    return request->setNodeMember(request->node, "image", image) ? 1 : 0;
+}
+
 int main(int argc, char **argv)
 {
     if (argc != 3) {
@@ -51,7 +99,7 @@ int main(int argc, char **argv)
         return 1;
     }
 
-    static HostContext host; /* zero: no stored view, no dialog services, no tiles */
+    static HostContext host; /* zero: no stored view, no dialog services */
     widen(pathBuffer, argv[1]);
     widen(installFolder, VIEWER_DIR);
     widen(settingsFolder, argv[2]);
@@ -66,6 +114,7 @@ int main(int argc, char **argv)
     host.outputPath = outputPath;
     host.installFolder = installFolder;
     host.settingsFolder = settingsFolder;
+    host.writeTiles = writeTiles;
     host.pageWidth = 800;
     host.pageHeight = 600;
     host.linearVertical = 1;
