@@ -389,6 +389,35 @@ private Q_SLOTS:
             QStringList {"keep.txt"});
     }
 
+    // WebP tiles: the "url" member names them, every announced tile is a WebP file, the
+    // thumbnail stays JPEG, and the pyramid is smaller than the JPEG one at the same quality.
+    void webpTiles()
+    {
+        QVERIFY(writePicture(path("good.jpg"), 1100, 550, Qt::darkGreen));
+        QCOMPARE(run("@/good.jpg -o @/jpeg/x.html").status, 0);
+        const Run webp = run("@/good.jpg -o @/webp/x.html --tile-format webp");
+        QVERIFY2(webp.status == 0, qPrintable(webp.err));
+
+        const QJsonObject image = nodeOf(path("webp/x.json")).value("image").toObject();
+        QCOMPARE(image["url"].toString(), QString("x_tiles/{level}/{column}_{row}.webp"));
+        const QJsonArray levels = image["levels"].toArray();
+        QCOMPARE(levels.size(), 3);
+        for (int level = 0; level < levels.size(); ++level) {
+            const QDir folder(path("webp/x_tiles/") + QString::number(level));
+            const int columns = levels[level]["columns"].toInt(),
+                      rows = levels[level]["rows"].toInt();
+            QCOMPARE(folder.entryList(QDir::Files).size(), columns * rows);
+            for (int column = 0; column < columns; ++column)
+                for (int row = 0; row < rows; ++row) {
+                    const QByteArray tile = vantora::test::readFileBytes(
+                        folder.filePath(QString("%1_%2.webp").arg(column).arg(row)));
+                    QVERIFY(tile.startsWith("RIFF") && tile.mid(8, 4) == "WEBP");
+                }
+        }
+        QCOMPARE(QImageReader(path("webp/x_tiles/x_thumb.jpg")).format(), QByteArray("jpeg"));
+        QVERIFY(bytesBelow(path("webp/x_tiles")) < bytesBelow(path("jpeg/x_tiles")));
+    }
+
     // What scripts rely on: the version, a run that prints nothing, and the JSON summary whose
     // figures are those of the files on disk.
     void versionQuietAndJson()
@@ -557,6 +586,7 @@ private Q_SLOTS:
             {"settings missing",   "-o @/out/x.html --settings @/none.ini", "--settings: cannot read @/none.ini"},
             {"not a library",      "@/good.jpg -o @/out/x.html --library @/text.jpg", "cannot load the library @/text.jpg: ", 1},
             {"no library",         "@/good.jpg -o @/out/x.html --library @/none.so", "cannot load the library @/none.so: no such file", 1},
+            {"tile format",        "-o @/out/x.html --tile-format png",     "--tile-format must be jpeg or webp"},
             {"-o twice",           "-o @/out/x.html -o @/out/y.html",       "--output is given more than once (vantora-export --help lists the options)"},
             {"--quality twice",    "-o @/out/x.html --quality 70 --quality 90", "--quality is given more than once"},
             {"value missing",      "-o",                                    "Missing value after '-o' (vantora-export --help lists the options)"},
