@@ -85,7 +85,7 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
                        "from the aspect ratio)."),
         QStringLiteral("DEGREES"));
     const QCommandLineOption quality(QStringLiteral("quality"),
-        QStringLiteral("JPEG quality of the tiles: 70, 80 or 90 (80)."), QStringLiteral("PERCENT"),
+        QStringLiteral("Quality of the tiles: 70, 80 or 90 (80)."), QStringLiteral("PERCENT"),
         QStringLiteral("80"));
     const QCommandLineOption tileFormat(QStringLiteral("tile-format"),
         QStringLiteral("Encoding of the tiles: jpeg or webp (jpeg). WebP tiles are smaller; "
