@@ -115,6 +115,7 @@ std::uint32_t HostRecord::writeTiles(HostContext *host, HostTileRequest *request
     job.outputWidth = int(request->outputWidth);
     job.outputHeight = int(request->outputHeight);
     job.quality = int(host->jpegQuality ? host->jpegQuality : 80);
+    job.format = self.m_job.tileFormat;
     job.progress = self.m_job.progress;
     QElapsedTimer clock;
     clock.start();
@@ -130,8 +131,9 @@ std::uint32_t HostRecord::writeTiles(HostContext *host, HostTileRequest *request
     projection.flat = request->flatMode != 0;
     projection.hextent = request->endPan - request->startPan;
     projection.vextent = request->lowerEdgeTilt - request->upperEdgeTilt;
-    const QByteArray image = QJsonDocument(imageMember(identifier, result.levels, projection))
-                                 .toJson(QJsonDocument::Compact);
+    const QByteArray image
+        = QJsonDocument(imageMember(identifier, result.levels, projection, job.format))
+              .toJson(QJsonDocument::Compact);
     if (!request->setNodeMember(request->node, "image", image.constData())) {
         outcome.error = QStringLiteral("the library refused the tile description");
         return 0;

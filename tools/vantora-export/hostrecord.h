@@ -25,6 +25,7 @@ struct PageJob
     PageFrame frame;
     std::uint64_t documentId = 1;
     int quality = 80;
+    TileFormat tileFormat = TileFormat::Jpeg;
     int pageWidth = 800;
     int pageHeight = 600;
     bool fitToPage = false;

@@ -2,20 +2,48 @@
 
 #include "hostrecord.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <cstring>
 
 namespace vantora::cli {
+namespace {
+
+// The loader's own reason without the wrapping the toolkit adds around it ("Cannot load library
+// P: (P: reason)"), so that the path is named once, as the user gave it.
+QString loaderReason(const QString &errorText, const QString &path)
+{
+    QString reason = errorText;
+    const int open = reason.indexOf(QLatin1String(": ("));
+    if (open >= 0 && reason.endsWith(QLatin1Char(')')))
+        reason = reason.mid(open + 3, reason.size() - open - 4);
+    for (const QString &prefix :
+        {path + QLatin1String(": "), QFileInfo(path).fileName() + QLatin1String(": ")})
+        if (reason.startsWith(prefix))
+            reason = reason.mid(prefix.size());
+    return reason;
+}
+
+} // namespace
 
 bool LibrarySession::load(const QString &path, QString *error)
 {
-    m_library.setFileName(path);
+    const QString shown = QDir::toNativeSeparators(path);
+    // The toolkit would try other names around a missing file; this tool loads that file only.
+    if (!QFileInfo(path).isFile()) {
+        *error = QStringLiteral("cannot load the library %1: no such file").arg(shown);
+        return false;
+    }
+    m_library.setFileName(QFileInfo(path).absoluteFilePath());
     if (!m_library.load()) {
-        *error = QStringLiteral("cannot load the library: %1").arg(m_library.errorString());
+        *error = QStringLiteral("cannot load the library %1: %2")
+                     .arg(shown, loaderReason(m_library.errorString(), m_library.fileName()));
         return false;
     }
     m_exportApplet = reinterpret_cast<ExportAppletFn>(m_library.resolve("export_applet"));
     if (!m_exportApplet) {
-        *error = QStringLiteral("%1 has no export_applet").arg(path);
+        *error = QStringLiteral("%1 has no export_applet").arg(shown);
         return false;
     }
     return true;

@@ -2,17 +2,24 @@
 // Vantora web export library, driving it exactly as a panorama application does.
 #include "exportplan.h"
 #include "hostrecord.h"
+#include "interruption.h"
 #include "librarysession.h"
 #include "options.h"
 #include "plugin/outputstage.h"
 #include "report.h"
 #include "resources/resources.h"
 #include "settingsfile.h"
+#include "toolpaths.h"
+
+#include <vantora/version.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -35,13 +42,28 @@ int fail(int status, const QString &message)
     return status;
 }
 
-QString defaultLibrary()
+// The summary a script reads: the pages, the files and the time spent.
+void printJson(
+    QTextStream &out, const QJsonArray &pages, QJsonObject summary, qint64 exportMs, qint64 tilesMs)
 {
-    const QString built = QStringLiteral(VANTORA_EXPORT_LIBRARY);
-    if (QFileInfo::exists(built))
-        return built;
-    // An installed tool finds the library beside itself.
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/libvantora_export.so");
+    summary.insert(QStringLiteral("version"), QStringLiteral(VANTORA_EXPORT_VERSION));
+    summary.insert(QStringLiteral("pages"), pages);
+    summary.insert(QStringLiteral("timings"),
+        QJsonObject {{QStringLiteral("exportMs"), double(exportMs)},
+            {QStringLiteral("tilesMs"), double(tilesMs)},
+            {QStringLiteral("libraryMs"), double(exportMs - tilesMs)}});
+    out << QJsonDocument(summary).toJson(QJsonDocument::Indented);
+}
+
+int printVersion(const ToolPaths &paths)
+{
+    // Tool and library are built and installed together from one source tree.
+    QTextStream(stdout) << "vantora-export " << VANTORA_EXPORT_VERSION << '\n'
+                        << "library " << VANTORA_EXPORT_VERSION << ": "
+                        << QDir::toNativeSeparators(paths.library) << '\n'
+                        << "viewer folder: " << QDir::toNativeSeparators(paths.installFolder)
+                        << '\n';
+    return 0;
 }
 
 // Qt warns on stderr when the offscreen platform finds no runtime folder; the tool draws no
@@ -93,11 +115,14 @@ int main(int argc, char *argv[])
 
     CliOptions options;
     QString message;
-    switch (parseOptions(QCoreApplication::arguments(), defaultLibrary(),
-        QStringLiteral(VANTORA_INSTALL_FOLDER), &options, &message)) {
+    const ToolPaths paths = findToolPaths(QCoreApplication::applicationDirPath());
+    switch (parseOptions(
+        QCoreApplication::arguments(), paths.library, paths.installFolder, &options, &message)) {
     case ParseResult::Help:
         QTextStream(stdout) << message;
         return 0;
+    case ParseResult::Version:
+        return printVersion(paths);
     case ParseResult::Error:
         return fail(EXIT_BAD_INPUT, message);
     case ParseResult::Run:
@@ -113,6 +138,19 @@ int main(int argc, char *argv[])
         if (options.recoverOnly)
             return 0;
     }
+    if (!options.settingsFile.isEmpty() && !isPresetFile(options.settingsFile, &message))
+        return fail(EXIT_BAD_INPUT, QStringLiteral("--settings: ") + message);
+    if (!options.writeSettings.isEmpty()) {
+        if (!writeSettingsFile(options, &message))
+            return fail(EXIT_BAD_INPUT, message);
+        if (!options.quiet)
+            QTextStream(stdout) << "settings: " << QDir::toNativeSeparators(options.writeSettings)
+                                << '\n';
+        return 0;
+    }
+    const QString notice = settingsNotice(options);
+    if (!notice.isEmpty() && !options.quiet)
+        QTextStream(stderr) << "vantora-export: " << notice << '\n';
     if (!initImageLibrary(argv[0]))
         return fail(EXIT_EXPORT_FAILED, QStringLiteral("cannot start the image library"));
 
@@ -144,10 +182,13 @@ int main(int argc, char *argv[])
         parentWindow = std::make_unique<QWidget>();
         parentWindow->setWindowTitle(QStringLiteral("vantora-export"));
     }
+    // From here on Ctrl-C stops the run at its next safe point instead of killing it midway.
+    watchInterruptions();
     QTextStream out(stdout);
     QStringList pageLines;
     QStringList writtenPages;
-    ProgressLine progress(stderrIsTerminal());
+    QJsonArray pageObjects;
+    ProgressLine progress(stderrIsTerminal() && !options.quiet && !options.json);
     qint64 exportMs = 0;
     qint64 tilesMs = 0;
     const std::deque<Page> &pages = plan.pages;
@@ -159,6 +200,7 @@ int main(int argc, char *argv[])
         job.frame = page.frame;
         job.documentId = i + 1;
         job.quality = options.quality;
+        job.tileFormat = options.tileFormat;
         job.pageWidth = options.pageWidth;
         job.pageHeight = options.pageHeight;
         job.fitToPage = options.fitToPage;
@@ -185,6 +227,21 @@ int main(int argc, char *argv[])
             removeCreatedFolders(plan);
             QTextStream(stderr) << "vantora-export: export cancelled\n";
             return 0;
+        }
+        // Stopped while its tiles were cut, or between the pages of a tour: the pages not yet
+        // exported stay as they were. Only a run whose every page is done counts as finished.
+        // Like a failure, the pages already done are whole new exports and stay, named in the line.
+        if (interrupted() && (!exported || i + 1 < pages.size())) {
+            if (exported)
+                writtenPages.append(QDir::toNativeSeparators(outcome.pagePath));
+            removeCreatedFolders(plan);
+            QTextStream(stderr) << "vantora-export: interrupted"
+                                << (writtenPages.isEmpty()
+                                           ? QString()
+                                           : QStringLiteral("; written before it: ")
+                                               + writtenPages.join(QStringLiteral(", ")))
+                                << '\n';
+            return interruptedStatus();
         }
         if (!exported) {
             // The library left this page's files as they were; the pages before it are whole new
@@ -218,12 +275,32 @@ int main(int argc, char *argv[])
                 .arg(outcome.view.pan)
                 .arg(outcome.view.tilt)
                 .arg(outcome.view.hfov));
+        pageObjects.append(
+            QJsonObject {{QStringLiteral("page"), QDir::toNativeSeparators(outcome.pagePath)},
+                {QStringLiteral("image"), page.source.name},
+                {QStringLiteral("width"), page.source.width},
+                {QStringLiteral("height"), page.source.height},
+                {QStringLiteral("flat"), page.frame.flat},
+                {QStringLiteral("hextent"), page.frame.hextent},
+                {QStringLiteral("vextent"), page.frame.vextent},
+                {QStringLiteral("view"),
+                    QJsonObject {{QStringLiteral("pan"), outcome.view.pan},
+                        {QStringLiteral("tilt"), outcome.view.tilt},
+                        {QStringLiteral("hfov"), outcome.view.hfov}}}});
     }
+    const RunFiles written = changedFiles(before, snapshotFolder(folder));
+    if (options.json) {
+        printJson(out, pageObjects, summaryJson(folder, written), exportMs, tilesMs);
+        return 0;
+    }
+    if (options.quiet)
+        return 0;
+    // Printed once every page is done: a failed tour names no page as written.
     for (const QString &line : qAsConst(pageLines))
         out << line << '\n';
     // In the dialog the user may have chosen another folder; the summary covers the proposed one.
     if (!options.interactive)
-        printSummary(out, folder, before, snapshotFolder(folder));
+        printSummary(out, folder, written);
     out << QStringLiteral(
         "export time: %1 s, of which tiles %2 s and the library's own files %3 s\n")
                .arg(exportMs / 1000.0, 0, 'f', 3)

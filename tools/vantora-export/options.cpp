@@ -65,8 +65,18 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         QStringLiteral("[IMAGE ...]"));
     const QCommandLineOption help(
         {QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
+    const QCommandLineOption version(QStringLiteral("version"),
+        QStringLiteral("Shows the version of the tool and of the library it loads."));
     const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
         QStringLiteral("The page to write (required)."), QStringLiteral("OUT.html"));
+    const QCommandLineOption quiet({QStringLiteral("q"), QStringLiteral("quiet")},
+        QStringLiteral("Prints nothing but errors: no progress, no list of files."));
+    const QCommandLineOption json(QStringLiteral("json"),
+        QStringLiteral("Prints one JSON object on stdout instead: pages, files, sizes, timings."));
+    const QCommandLineOption writeSettings(QStringLiteral("write-settings"),
+        QStringLiteral("Writes the viewer settings (the defaults, or --settings and --title "
+                       "applied to them) as a preset file to edit, and exports nothing."),
+        QStringLiteral("FILE"));
     const QCommandLineOption flat(
         QStringLiteral("flat"), QStringLiteral("Export flat 2D zoom images instead of panoramas."));
     const QCommandLineOption hextent(QStringLiteral("hextent"),
@@ -78,8 +88,12 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
                        "from the aspect ratio)."),
         QStringLiteral("DEGREES"));
     const QCommandLineOption quality(QStringLiteral("quality"),
-        QStringLiteral("JPEG quality of the tiles: 70, 80 or 90 (80)."), QStringLiteral("PERCENT"),
+        QStringLiteral("Quality of the tiles: 70, 80 or 90 (80)."), QStringLiteral("PERCENT"),
         QStringLiteral("80"));
+    const QCommandLineOption tileFormat(QStringLiteral("tile-format"),
+        QStringLiteral("Encoding of the tiles: jpeg or webp (jpeg). WebP tiles are smaller; "
+                       "every current browser shows them."),
+        QStringLiteral("FORMAT"), QStringLiteral("jpeg"));
     const QCommandLineOption pageSize(QStringLiteral("page-size"),
         QStringLiteral("Size of the viewer area in the page (800x600)."), QStringLiteral("WxH"),
         QStringLiteral("800x600"));
@@ -102,10 +116,10 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         QStringLiteral("TEXT"));
     const QCommandLineOption install(QStringLiteral("install"),
         QStringLiteral("Installation folder holding VantoraViewer/vantoViewer.js (default: the "
-                       "build's)."),
+                       "one installed with the tool)."),
         QStringLiteral("DIR"), defaultInstall);
     const QCommandLineOption library(QStringLiteral("library"),
-        QStringLiteral("The export library to load (default: the build's)."),
+        QStringLiteral("The export library to load (default: the one installed with the tool)."),
         QStringLiteral("FILE"), defaultLibrary);
     const QCommandLineOption maxPixels(QStringLiteral("max-pixels"),
         QStringLiteral("Largest source picture accepted, in pixels (1000000000); its header "
@@ -117,22 +131,58 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
     const QCommandLineOption recover(QStringLiteral("recover"),
         QStringLiteral("Only finishes or undoes an export cut short in the folder of OUT.html, "
                        "leaving the old export or the new one, whole; exports nothing."));
-    parser.addOptions({help, output, flat, hextent, vextent, quality, maxPixels, pageSize, fit,
-        hotspots, location, settingsFile, title, install, library, interactive, recover});
+    const QList<QCommandLineOption> all {help, version, output, flat, hextent, vextent, quality,
+        maxPixels, pageSize, fit, hotspots, location, settingsFile, title, install, library,
+        interactive, recover, quiet, json, writeSettings, tileFormat};
+    parser.addOptions(all);
 
     auto error = [message](const QString &text) {
         *message = text;
         return ParseResult::Error;
     };
+    // A mistake in the options themselves: the help lists them.
+    auto usage = [&error](QString text) {
+        if (text.endsWith(QLatin1Char('.')))
+            text.chop(1);
+        return error(text + QStringLiteral(" (vantora-export --help lists the options)"));
+    };
     if (!parser.parse(arguments))
-        return error(parser.errorText());
+        return usage(parser.errorText());
     if (parser.isSet(help)) {
         *message = parser.helpText();
         return ParseResult::Help;
     }
+    if (parser.isSet(version))
+        return ParseResult::Version;
+    // Every option takes one value: a second one is a mistake, not a replacement.
+    for (const QCommandLineOption &option : all) {
+        if (!option.valueName().isEmpty() && parser.values(option).size() > 1)
+            return usage(QStringLiteral("--%1 is given more than once").arg(option.names().last()));
+    }
+    options->quiet = parser.isSet(quiet);
+    options->json = parser.isSet(json);
+
+    if (parser.isSet(settingsFile)) {
+        const QFileInfo file(parser.value(settingsFile));
+        if (!file.isFile() || !file.isReadable())
+            return error(QStringLiteral("--settings: cannot read %1")
+                             .arg(QDir::toNativeSeparators(file.filePath())));
+        options->settingsFile = file.absoluteFilePath();
+    }
+    if (parser.isSet(title))
+        options->title = parser.value(title);
+    if (parser.isSet(writeSettings)) {
+        if (parser.value(writeSettings).isEmpty())
+            return usage(QStringLiteral("--write-settings needs a file name"));
+        if (parser.isSet(output) || !parser.positionalArguments().isEmpty())
+            return usage(
+                QStringLiteral("--write-settings writes a preset only: no IMAGE, no --output"));
+        options->writeSettings = QFileInfo(parser.value(writeSettings)).absoluteFilePath();
+        return ParseResult::Run;
+    }
 
     if (!parser.isSet(output) || parser.value(output).isEmpty())
-        return error(QStringLiteral("--output is required"));
+        return usage(QStringLiteral("--output is required"));
     const QFileInfo page(parser.value(output));
     if (!page.fileName().endsWith(QLatin1String(".html"), Qt::CaseInsensitive)
         || page.completeBaseName().isEmpty())
@@ -157,6 +207,10 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         && qualityText != QLatin1String("90"))
         return error(QStringLiteral("--quality must be 70, 80 or 90"));
     options->quality = qualityText.toInt();
+    const QString format = parser.value(tileFormat);
+    if (format != QLatin1String("jpeg") && format != QLatin1String("webp"))
+        return error(QStringLiteral("--tile-format must be jpeg or webp"));
+    options->tileFormat = format == QLatin1String("webp") ? TileFormat::WebP : TileFormat::Jpeg;
 
     const QRegularExpressionMatch size
         = QRegularExpression(QStringLiteral("^([1-9][0-9]{0,4})x([1-9][0-9]{0,4})$"))
@@ -177,7 +231,8 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
         // Only a regular file: a pipe or a device would block the tool or never end.
         const QFileInfo file(parser.value(hotspots));
         if (!file.isFile() || !file.isReadable())
-            return error(QStringLiteral("--hotspots: cannot read %1").arg(file.filePath()));
+            return error(QStringLiteral("--hotspots: cannot read %1")
+                             .arg(QDir::toNativeSeparators(file.filePath())));
         options->hotspotFile = file.absoluteFilePath();
     }
     if (parser.isSet(location)) {
@@ -187,18 +242,10 @@ ParseResult parseOptions(const QStringList &arguments, const QString &defaultLib
                                         "longitude -180..180, north 0..360"));
         options->location = where;
     }
-    if (parser.isSet(settingsFile)) {
-        const QFileInfo file(parser.value(settingsFile));
-        if (!file.isFile() || !file.isReadable())
-            return error(QStringLiteral("--settings: cannot read %1").arg(file.filePath()));
-        options->settingsFile = file.absoluteFilePath();
-    }
-    if (parser.isSet(title))
-        options->title = parser.value(title);
     // The library joins this folder and the viewer's sub-folder without a separator between.
     options->installFolder = QDir::toNativeSeparators(
         QFileInfo(parser.value(install)).absoluteFilePath() + QLatin1Char('/'));
-    options->libraryPath = parser.value(library);
+    options->libraryPath = QFileInfo(parser.value(library)).absoluteFilePath();
     options->interactive = parser.isSet(interactive);
     if (options->interactive && options->images.size() > 1)
         return error(QStringLiteral("--interactive exports one image at a time"));

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QMap>
 
 #include <algorithm>
@@ -90,37 +91,57 @@ FolderSnapshot snapshotFolder(const QString &folder)
     return files;
 }
 
-void printSummary(QTextStream &out, const QString &folder, const FolderSnapshot &before,
-    const FolderSnapshot &after)
+RunFiles changedFiles(const FolderSnapshot &before, const FolderSnapshot &after)
 {
-    QMap<QString, qint64> files; // sorted by name
-    QMap<QString, QPair<int, qint64>> tileFolders;
-    qint64 total = 0;
-    int count = 0;
+    RunFiles written;
     for (auto it = after.cbegin(); it != after.cend(); ++it) {
         if (it.key().endsWith(QLatin1Char('/'))
             || before.value(it.key(), qMakePair(qint64(-1), qint64(-2))) == it.value())
             continue;
         const qint64 size = it.value().first;
-        total += size;
-        ++count;
+        written.totalBytes += size;
+        ++written.count;
         const QString tiles = tilesFolderOf(it.key());
         if (tiles.isEmpty()) {
-            files.insert(it.key(), size);
+            written.files.insert(it.key(), size);
         } else {
-            tileFolders[tiles].first += 1;
-            tileFolders[tiles].second += size;
+            written.tileFolders[tiles].first += 1;
+            written.tileFolders[tiles].second += size;
         }
     }
+    return written;
+}
+
+void printSummary(QTextStream &out, const QString &folder, const RunFiles &written)
+{
     out << "files written in " << QDir::toNativeSeparators(folder) << ":\n";
-    for (auto it = files.cbegin(); it != files.cend(); ++it)
+    for (auto it = written.files.cbegin(); it != written.files.cend(); ++it)
         out << QStringLiteral("  %1  %2\n").arg(humanSize(it.value()), 10).arg(it.key());
-    for (auto it = tileFolders.cbegin(); it != tileFolders.cend(); ++it)
+    for (auto it = written.tileFolders.cbegin(); it != written.tileFolders.cend(); ++it)
         out << QStringLiteral("  %1  %2/ (%3 files)\n")
                    .arg(humanSize(it.value().second), 10)
                    .arg(it.key())
                    .arg(it.value().first);
-    out << QStringLiteral("  %1  in %2 files\n").arg(humanSize(total), 10).arg(count);
+    out << QStringLiteral("  %1  in %2 files\n")
+               .arg(humanSize(written.totalBytes), 10)
+               .arg(written.count);
+}
+
+QJsonObject summaryJson(const QString &folder, const RunFiles &written)
+{
+    QJsonArray files;
+    for (auto it = written.files.cbegin(); it != written.files.cend(); ++it)
+        files.append(QJsonObject {
+            {QStringLiteral("path"), it.key()}, {QStringLiteral("bytes"), double(it.value())}});
+    QJsonArray tileFolders;
+    for (auto it = written.tileFolders.cbegin(); it != written.tileFolders.cend(); ++it)
+        tileFolders.append(QJsonObject {{QStringLiteral("path"), it.key()},
+            {QStringLiteral("files"), it.value().first},
+            {QStringLiteral("bytes"), double(it.value().second)}});
+    return {{QStringLiteral("folder"), QDir::toNativeSeparators(folder)},
+        {QStringLiteral("files"), files}, {QStringLiteral("tileFolders"), tileFolders},
+        {QStringLiteral("fileCount"), written.count},
+        {QStringLiteral("totalBytes"), double(written.totalBytes)}};
 }
 
 } // namespace vantora::cli

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QHash>
+#include <QJsonObject>
+#include <QMap>
 #include <QPair>
 #include <QString>
 #include <QTextStream>
@@ -31,9 +33,22 @@ private:
 using FolderSnapshot = QHash<QString, QPair<qint64, qint64>>;
 FolderSnapshot snapshotFolder(const QString &folder);
 
-// Lists what changed between the snapshots: each file with its size, each image-data folder
-// ("*_tiles") as one line with its file count and total, then the total of the run.
-void printSummary(QTextStream &out, const QString &folder, const FolderSnapshot &before,
-    const FolderSnapshot &after);
+// What a run wrote: the files beside the pages with their sizes, each image-data folder ("*_tiles")
+// with its file count and total, by path relative to the output folder.
+struct RunFiles
+{
+    QMap<QString, qint64> files;
+    QMap<QString, QPair<int, qint64>> tileFolders;
+    qint64 totalBytes = 0;
+    int count = 0;
+};
+RunFiles changedFiles(const FolderSnapshot &before, const FolderSnapshot &after);
+
+// Lists the files: each with its size, each image-data folder as one line, then the total.
+void printSummary(QTextStream &out, const QString &folder, const RunFiles &written);
+
+// The same as JSON: "folder", "files" [{"path", "bytes"}], "tileFolders" [{"path", "files",
+// "bytes"}], "fileCount", "totalBytes".
+QJsonObject summaryJson(const QString &folder, const RunFiles &written);
 
 } // namespace vantora::cli

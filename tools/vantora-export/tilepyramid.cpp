@@ -31,6 +31,11 @@ QVector<PyramidLevel> pyramidLevels(int width, int height, int tileSize)
     return levels;
 }
 
+QString tileExtension(TileFormat format)
+{
+    return format == TileFormat::WebP ? QStringLiteral("webp") : QStringLiteral("jpg");
+}
+
 QString tilesFolderName(const QString &identifier)
 {
     return identifier + QStringLiteral("_tiles");
@@ -42,7 +47,7 @@ QString thumbnailName(const QString &identifier)
 }
 
 QJsonObject imageMember(const QString &identifier, const QVector<PyramidLevel> &levels,
-    const Projection &projection, int tileSize)
+    const Projection &projection, TileFormat format, int tileSize)
 {
     QJsonArray levelArray;
     for (const PyramidLevel &level : levels) {
@@ -61,7 +66,8 @@ QJsonObject imageMember(const QString &identifier, const QVector<PyramidLevel> &
         {QStringLiteral("width"), levels.isEmpty() ? 0 : levels.constLast().width},
         {QStringLiteral("height"), levels.isEmpty() ? 0 : levels.constLast().height},
         {QStringLiteral("tilesize"), tileSize},
-        {QStringLiteral("url"), folder + QStringLiteral("{level}/{column}_{row}.jpg")},
+        {QStringLiteral("url"),
+            folder + QStringLiteral("{level}/{column}_{row}.") + tileExtension(format)},
         {QStringLiteral("thumbnail"), folder + thumbnailName(identifier)},
         {QStringLiteral("levels"), levelArray},
     };

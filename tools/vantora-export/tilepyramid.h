@@ -9,6 +9,12 @@ namespace vantora::cli {
 
 constexpr int TILE_SIZE = 512;
 
+// How the tiles are encoded: JPEG, which every viewer reads, or WebP, smaller at the same quality.
+enum class TileFormat { Jpeg, WebP };
+
+// The file name extension of a tile, without the dot.
+QString tileExtension(TileFormat format);
+
 struct PyramidLevel
 {
     int width = 0;
@@ -33,7 +39,7 @@ struct Projection
 // The "image" member: type, projection, size, tile size, URL pattern, thumbnail and levels. Paths
 // are relative to the page, with '/' as in every URL.
 QJsonObject imageMember(const QString &identifier, const QVector<PyramidLevel> &levels,
-    const Projection &projection, int tileSize = TILE_SIZE);
+    const Projection &projection, TileFormat format = TileFormat::Jpeg, int tileSize = TILE_SIZE);
 
 // Where the tiles and the thumbnail of panorama `identifier` live, relative to the page.
 QString tilesFolderName(const QString &identifier);

@@ -1,6 +1,7 @@
 #include "tilewriter.h"
 
 #include "filesystem.h"
+#include "interruption.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,10 +55,13 @@ struct ProgressRelay
     int last = -1;
 };
 
-void onEval(VipsImage *, VipsProgress *progress, void *data)
+void onEval(VipsImage *image, VipsProgress *progress, void *data)
 {
+    // Ctrl-C: the image library stops cutting, the tile writer fails, and the export with it.
+    if (interrupted())
+        vips_image_set_kill(image, TRUE);
     auto *relay = static_cast<ProgressRelay *>(data);
-    if (progress->percent != relay->last) {
+    if (progress->percent != relay->last && *relay->report) {
         relay->last = progress->percent;
         (*relay->report)(progress->percent);
     }
@@ -92,7 +96,8 @@ private:
 
 // Whether the staged pyramid holds exactly the tiles of `levels`, each a non-empty file: nothing
 // missing, and nothing else (no half-written or temporary file) that would be published with it.
-bool isComplete(const QString &stagedLevels, const QVector<PyramidLevel> &levels, QString *error)
+bool isComplete(const QString &stagedLevels, const QVector<PyramidLevel> &levels,
+    const QString &extension, QString *error)
 {
     const QDir staged(stagedLevels);
     // Only the level folders move; the image library's own notes beside them stay behind.
@@ -114,8 +119,8 @@ bool isComplete(const QString &stagedLevels, const QVector<PyramidLevel> &levels
         bool whole = tiles.size() == expected.columns * expected.rows;
         for (int column = 0; whole && column < expected.columns; ++column)
             for (int row = 0; whole && row < expected.rows; ++row) {
-                const QFileInfo tile(
-                    folder.filePath(QStringLiteral("%1_%2.jpg").arg(column).arg(row)));
+                const QFileInfo tile(folder.filePath(
+                    QStringLiteral("%1_%2.%3").arg(column).arg(row).arg(extension)));
                 whole = tile.isFile() && !tile.isSymLink() && tile.size() > 0;
             }
         if (!whole) {
@@ -159,6 +164,10 @@ TileResult writeTilePyramid(const TileJob &job)
         result.error = QStringLiteral("nothing to tile");
         return result;
     }
+    if (interrupted()) {
+        result.error = QStringLiteral("interrupted");
+        return result;
+    }
     // Everything is cut into a fresh folder beside the image-data folder and moves in only when
     // complete: a failure leaves the earlier export's tiles as they were.
     const QString stagingFolder = job.tilesFolder + QStringLiteral(".vantora-staging");
@@ -168,7 +177,10 @@ TileResult writeTilePyramid(const TileJob &job)
     }
     const QString staged = stagingFolder + QLatin1Char('/') + QLatin1String(STAGING_NAME);
     const QString stagedThumbnail = stagingFolder + QStringLiteral("/thumbnail.jpg");
-    const QByteArray jpegSuffix = ".jpg[Q=" + QByteArray::number(job.quality) + ",strip]";
+    const QString extension = tileExtension(job.format);
+    // The image library picks the encoder by the suffix; the quality scale is the same for both.
+    const QByteArray tileSuffix
+        = '.' + extension.toLatin1() + "[Q=" + QByteArray::number(job.quality) + ",strip]";
     int width = 0;
     int height = 0;
     try {
@@ -181,24 +193,25 @@ TileResult writeTilePyramid(const TileJob &job)
         height = picture.height();
 
         ProgressRelay relay {&job.progress};
-        const ProgressConnection connection(job.progress ? picture.get_image() : nullptr, &relay);
+        const ProgressConnection connection(picture.get_image(), &relay);
         picture.dzsave(fileName(staged).constData(),
             vips::VImage::option()
                 ->set("layout", VIPS_FOREIGN_DZ_LAYOUT_DZ)
                 ->set("depth", VIPS_FOREIGN_DZ_DEPTH_ONETILE)
                 ->set("tile_size", TILE_SIZE)
                 ->set("overlap", 0)
-                ->set("suffix", jpegSuffix.constData()));
+                ->set("suffix", tileSuffix.constData()));
 
         // The smallest level holds the whole picture in one tile: shrinking it is far cheaper
         // than reading the source a second time.
-        const QString smallest = staged + QStringLiteral("_files/0/0_0.jpg");
+        const QString smallest = staged + QStringLiteral("_files/0/0_0.") + extension;
         const vips::VImage thumbnail = vips::VImage::thumbnail(fileName(smallest).constData(),
             THUMBNAIL_SIZE, vips::VImage::option()->set("size", VIPS_SIZE_DOWN));
         thumbnail.jpegsave(fileName(stagedThumbnail).constData(),
             vips::VImage::option()->set("Q", job.quality)->set("strip", true));
     } catch (const vips::VError &failure) {
-        result.error = QString::fromUtf8(failure.what()).simplified();
+        result.error = interrupted() ? QStringLiteral("interrupted")
+                                     : QString::fromUtf8(failure.what()).simplified();
         vips_error_clear();
         removePath(stagingFolder);
         return result;
@@ -206,7 +219,7 @@ TileResult writeTilePyramid(const TileJob &job)
 
     result.levels = pyramidLevels(width, height);
     const QString stagedLevels = staged + QStringLiteral("_files");
-    const bool complete = isComplete(stagedLevels, result.levels, &result.error)
+    const bool complete = isComplete(stagedLevels, result.levels, extension, &result.error)
         && QFileInfo(stagedThumbnail).size() > 0;
     if (complete && result.error.isEmpty())
         result.ok = assemble(job.tilesFolder, stagedLevels, result.levels.size(), stagedThumbnail,

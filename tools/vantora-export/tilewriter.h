@@ -19,6 +19,7 @@ struct TileJob
     int outputWidth = 0; // the size of the largest level; smaller than the source: scaled down
     int outputHeight = 0;
     int quality = 80;
+    TileFormat format = TileFormat::Jpeg;
     std::function<void(int percent)> progress; // may be empty
 };
 
