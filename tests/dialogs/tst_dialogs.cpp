@@ -731,14 +731,12 @@ private slots:
         const QStringList german = {"Interaktives HTML5-Panorama/Zoom-Bild speichern...", "Ausgabe",
             "Fenstergröße", "Ausgabegröße Panoramabild", "Interaktives 3D-Panorama",
             "Flaches 2D-Zoom-Bild", "10000x5000 Pixel", "50.00 Megapixel",
-            "Der Dialog für die Viewer-Einstellungen ist noch nicht verfügbar.",
-            "geringe Qualität / kleine Dateien", "normale Qualität",
+            "Erweiterte Einstellungen...", "geringe Qualität / kleine Dateien", "normale Qualität",
             "hohe Qualität / große Dateien"};
         const QStringList english = {"Save Interactive HTML5 Panorama/Zoom Image...", "Output",
             "Window Size", "Output Size of the Panorama Image", "Interactive 3D panorama",
-            "Flat 2D zoom image", "10000x5000 pixels", "50.00 megapixels",
-            "The viewer settings dialog is not available yet.", "low quality / small files",
-            "normal quality", "high quality / large files"};
+            "Flat 2D zoom image", "10000x5000 pixels", "50.00 megapixels", "Advanced Settings...",
+            "low quality / small files", "normal quality", "high quality / large files"};
         QTest::addRow("en_GB") << QLocale(QLocale::English, QLocale::UnitedKingdom) << english;
         QTest::addRow("en_US") << QLocale(QLocale::English, QLocale::UnitedStates) << english;
         QTest::addRow("fr_FR") << QLocale(QLocale::French, QLocale::France) << german;
@@ -760,7 +758,7 @@ private slots:
                     seen << itemsOf(child<QComboBox>(d, "typeBox"))
                          << child<QLabel>(d, "sizeLabel")->text()
                          << child<QLabel>(d, "megapixelLabel")->text()
-                         << child<QPushButton>(d, "settingsButton")->toolTip();
+                         << child<QPushButton>(d, "settingsButton")->text();
                     clickLater(child<QPushButton>(d, "qualityButton"));
                 })
             .then("QualityDlg",
