@@ -6,7 +6,6 @@
 #include "dialogs/appletsettingsdlg.h"
 #include "dialogs/maindlg.h"
 #include "plugin/pluginstate.h"
-#include "settings/presetkeys.h"
 #include "settings/presets.h"
 #include "settings/viewersettings.h"
 
@@ -62,7 +61,7 @@ int main(int argc, char *argv[])
     settings::resetViewerSettings();
     for (int i = 0; i < 20; ++i)
         settings::writePresetFile(QString::fromStdU16String(settingsFolder),
-            QStringLiteral("Voreinstellung %1").arg(i), settings::PresetValues());
+            QStringLiteral("Voreinstellung %1").arg(i), settings::Preset());
 
     plugin::ExportJob job;
     job.imageWidth = 8000;

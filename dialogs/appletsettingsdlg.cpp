@@ -9,7 +9,7 @@
 #include "plugin/pluginstate.h"
 #include "resources/resources.h"
 #include "settings/hostini.h"
-#include "settings/presetrecord.h"
+#include "settings/presetfile.h"
 #include "settings/presets.h"
 
 #include <QPushButton>
@@ -100,16 +100,19 @@ QString AppletSettingsDlg::settingsFolder() const
     return m_host ? plugin::fromHost(m_host->settingsFolder) : QString();
 }
 
-settings::PresetValues AppletSettingsDlg::presetValues() const
+settings::Preset AppletSettingsDlg::currentPreset() const
 {
-    return valuesFromWidgets(this, m_textColour, m_shadowColour);
+    settings::Preset colours;
+    colours.settings.TextColor = m_textColour;
+    colours.settings.ShadowColor = m_shadowColour;
+    return presetFromWidgets(this, colours);
 }
 
-void AppletSettingsDlg::showPresetValues(const settings::PresetValues &values)
+void AppletSettingsDlg::showPreset(const settings::Preset &preset)
 {
-    valuesToWidgets(this, values);
-    setColour(stackedWidgetPage1->txtClrButton, &m_textColour, values.TextColor);
-    setColour(stackedWidgetPage1->shadowClrButton, &m_shadowColour, values.ShadowColor);
+    presetToWidgets(this, preset);
+    setColour(stackedWidgetPage1->txtClrButton, &m_textColour, preset.settings.TextColor);
+    setColour(stackedWidgetPage1->shadowClrButton, &m_shadowColour, preset.settings.ShadowColor);
     // The intro needs a full sphere, whatever was stored.
     QCheckBox *intro = stackedWidgetPage4->littlePlanetIntroBox;
     intro->setChecked(intro->isChecked() && isFullSphere());
@@ -121,7 +124,7 @@ void AppletSettingsDlg::loadFromSettings()
     // Without a custom entry in the record the custom texts typed earlier stay.
     const QString caption = page_2->miCaptionEdit->text();
     const QString action = page_2->miActionEdit->toPlainText();
-    showPresetValues(valuesFromRecord(record));
+    showPreset({record, settings::menuChoiceOf(record.ContextMenuItems)});
     if (!page_2->miCustomItemBox->isChecked()) {
         page_2->miCaptionEdit->setText(caption);
         page_2->miActionEdit->setPlainText(action);
@@ -184,7 +187,7 @@ void AppletSettingsDlg::storeToSettings()
 {
     settings::ViewerSettings &record = settings::viewerSettings();
     // The preset form rebuilds the context menu from its boxes and sets ContextMenuSpare false.
-    settings::applyPresetValues(presetValues(), record);
+    settings::applyPreset(currentPreset(), record);
     const auto checkedAndEnabled
         = [](const QCheckBox *box) { return box->isChecked() && box->isEnabled(); };
     record.AddGyro = checkedAndEnabled(stackedWidgetPage5->addGyro);

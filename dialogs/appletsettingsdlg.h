@@ -3,7 +3,7 @@
 
 #include "ui_appletsettingsdlg.h"
 
-#include "settings/presetkeys.h"
+#include "settings/presetfile.h"
 #include "settings/viewersettings.h"
 
 #include <vantora/host.h>
@@ -34,8 +34,8 @@ public:
     void storeToSettings();
 
     // The widgets as a preset would store them, and a preset's values shown in the widgets.
-    settings::PresetValues presetValues() const;
-    void showPresetValues(const settings::PresetValues &values);
+    settings::Preset currentPreset() const;
+    void showPreset(const settings::Preset &preset);
 
     // Reads the preset file at `path` into the widgets. An unreadable file is reported in one
     // message box and leaves every widget as it was; false then.

@@ -129,7 +129,7 @@ void AppletSettingsDlg::on_saveButton_clicked()
             QCoreApplication::translate("AppletSettingsDlg",
                 "Eine Einstellung mit dieser Bezeichnung existiert bereits!\nÜberschreiben?")))
         return;
-    if (!settings::writePresetFile(folder, name, presetValues())) {
+    if (!settings::writePresetFile(folder, name, currentPreset())) {
         plugin::showCritical(this, QCoreApplication::translate("AppletSettingsDlg", "Fehler"),
             QCoreApplication::translate("AppletSettingsDlg",
                 "Einstellung konnte nicht gespeichert werden!\nDie Bezeichnung enthielt "
@@ -180,8 +180,8 @@ void AppletSettingsDlg::on_settingsBox_currentIndexChanged(int index)
 bool AppletSettingsDlg::loadPresetFile(const QString &path)
 {
     bool readable = QFileInfo(path).isFile();
-    const settings::PresetValues values
-        = readable ? settings::readPresetValues(path, &readable) : settings::PresetValues();
+    const settings::Preset preset
+        = readable ? settings::readPreset(path, &readable) : settings::Preset();
     if (!readable) {
         plugin::showCritical(this, QCoreApplication::translate("AppletSettingsDlg", "Fehler"),
             QCoreApplication::translate("AppletSettingsDlg",
@@ -191,7 +191,7 @@ bool AppletSettingsDlg::loadPresetFile(const QString &path)
         return false;
     }
     m_loading = true;
-    showPresetValues(values);
+    showPreset(preset);
     refreshOrientationGroup();
     refreshMapGroup();
     refreshPage();

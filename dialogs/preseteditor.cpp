@@ -2,7 +2,7 @@
 
 #include "appletsettingsdlg.h"
 
-#include "settings/presetkeys.h"
+#include "settings/presetfile.h"
 
 #include <QFileInfo>
 
@@ -15,8 +15,8 @@ PresetEdit editPresetInDialog(const QString &file, QWidget *parent)
         return PresetEdit::Unreadable;
     if (dialog.exec() != QDialog::Accepted)
         return PresetEdit::Cancelled;
-    return settings::writePresetValues(file, dialog.presetValues()) ? PresetEdit::Saved
-                                                                    : PresetEdit::Unwritable;
+    return settings::writePreset(file, dialog.currentPreset()) ? PresetEdit::Saved
+                                                               : PresetEdit::Unwritable;
 }
 
 } // namespace vantora::dialogs

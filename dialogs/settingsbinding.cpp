@@ -1,6 +1,6 @@
 #include "settingsbinding.h"
 
-#include "settings/viewersettingsfields.h"
+#include "settings/settingstable.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -17,18 +17,15 @@
 namespace vantora::dialogs {
 namespace {
 
-using settings::Colour;
-using settings::PresetValues;
-
 struct Binding
 {
-    const char *key;
-    const char *widget; // null: not a widget (the colours)
+    const char *setting;
+    const char *widget;
     bool inverted = false;
 };
 
 // clang-format off
-// The preset keys in file order, each with the widget that shows it.
+// The widget of every setting a preset keeps, but the two colours (the dialog's own values).
 const Binding BINDINGS[] = {
     {"Position",                   "positionBox"},
     {"TBDesign",                   "designBox"},
@@ -95,26 +92,22 @@ const Binding BINDINGS[] = {
     {"MapRadar",                   "mapRadarBox"},
     {"MapZoomControls",            "mapZoomControlBox"},
     {"MapTypeControls",            "mapTypeControlBox"},
-    {"TextColor",                  nullptr},
-    {"ShadowColor",                nullptr},
 };
 // clang-format on
 
-const Binding &bindingOf(const char *key)
+// Calls bind(row, widget, inverted) for every row of the table that a widget shows.
+template <class Dialog, class Bind> void forEachBound(Dialog *dialog, Bind &&bind)
 {
-    for (const Binding &binding : BINDINGS) {
-        if (std::strcmp(binding.key, key) == 0)
-            return binding;
+    for (const settings::SettingRow &row : settings::settingRows()) {
+        const auto *binding = std::find_if(std::begin(BINDINGS), std::end(BINDINGS),
+            [&row](const Binding &b) { return std::strcmp(b.setting, row.name) == 0; });
+        if (binding == std::end(BINDINGS))
+            continue;
+        auto *widget = dialog->template findChild<QWidget *>(QLatin1String(binding->widget));
+        if (!widget)
+            qFatal("the settings dialog has no widget %s", binding->widget);
+        bind(row, widget, binding->inverted);
     }
-    qFatal("no widget bound to the preset key %s", key);
-}
-
-QWidget *widgetOf(const QWidget *dialog, const Binding &binding)
-{
-    auto *widget = dialog->findChild<QWidget *>(QLatin1String(binding.widget));
-    if (!widget)
-        qFatal("the settings dialog has no widget %s", binding.widget);
-    return widget;
 }
 
 // Check boxes and checkable groups hold a flag; a combo box of two entries may hold one too (the
@@ -176,100 +169,40 @@ void setText(QWidget *widget, const QString &text)
 
 } // namespace
 
-PresetValues valuesFromWidgets(const QWidget *dialog, Colour textColour, Colour shadowColour)
+settings::Preset presetFromWidgets(const QWidget *dialog, settings::Preset preset)
 {
-    PresetValues values;
-    values.TextColor = textColour;
-    values.ShadowColor = shadowColour;
-    settings::forEachPresetField([&](const char *key, settings::PresetField field) {
-        const Binding &binding = bindingOf(key);
-        if (!binding.widget)
-            return;
-        const QWidget *widget = widgetOf(dialog, binding);
-        std::visit(
-            [&](auto member) {
-                using Value = std::remove_cv_t<std::remove_reference_t<decltype(values.*member)>>;
+    forEachBound(
+        dialog, [&](const settings::SettingRow &row, const QWidget *widget, bool inverted) {
+            settings::visitValue(row, preset.settings, preset.menu, [&](auto &value) {
+                using Value = std::decay_t<decltype(value)>;
                 if constexpr (std::is_same_v<Value, bool>)
-                    values.*member = flagOf(widget) != binding.inverted;
+                    value = flagOf(widget) != inverted;
                 else if constexpr (std::is_same_v<Value, int>)
-                    values.*member = numberOf(widget);
+                    value = numberOf(widget);
                 else if constexpr (std::is_same_v<Value, double>)
-                    values.*member = qobject_cast<const QDoubleSpinBox *>(widget)->value();
+                    value = qobject_cast<const QDoubleSpinBox *>(widget)->value();
                 else if constexpr (std::is_same_v<Value, QString>)
-                    values.*member = textOf(widget);
-            },
-            field);
-    });
-    return values;
+                    value = textOf(widget);
+            });
+        });
+    return preset;
 }
 
-void valuesToWidgets(QWidget *dialog, const PresetValues &values)
+void presetToWidgets(QWidget *dialog, const settings::Preset &preset)
 {
-    settings::forEachPresetField([&](const char *key, settings::PresetField field) {
-        const Binding &binding = bindingOf(key);
-        if (!binding.widget)
-            return;
-        QWidget *widget = widgetOf(dialog, binding);
-        std::visit(
-            [&](auto member) {
-                using Value = std::remove_cv_t<std::remove_reference_t<decltype(values.*member)>>;
-                if constexpr (std::is_same_v<Value, bool>)
-                    setFlag(widget, values.*member != binding.inverted);
-                else if constexpr (std::is_same_v<Value, int>)
-                    setNumber(widget, values.*member);
-                else if constexpr (std::is_same_v<Value, double>)
-                    qobject_cast<QDoubleSpinBox *>(widget)->setValue(values.*member);
-                else if constexpr (std::is_same_v<Value, QString>)
-                    setText(widget, values.*member);
-            },
-            field);
+    forEachBound(dialog, [&](const settings::SettingRow &row, QWidget *widget, bool inverted) {
+        settings::visitValue(row, preset.settings, preset.menu, [&](const auto &value) {
+            using Value = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<Value, bool>)
+                setFlag(widget, value != inverted);
+            else if constexpr (std::is_same_v<Value, int>)
+                setNumber(widget, value);
+            else if constexpr (std::is_same_v<Value, double>)
+                qobject_cast<QDoubleSpinBox *>(widget)->setValue(value);
+            else if constexpr (std::is_same_v<Value, QString>)
+                setText(widget, value);
+        });
     });
-}
-
-PresetValues valuesFromRecord(const settings::ViewerSettings &record)
-{
-    PresetValues values;
-    // Keys and record fields share their names; the menu keys have no field of their own.
-    settings::forEachPresetField([&](const char *key, settings::PresetField presetMember) {
-        std::visit(
-            [&](auto to) {
-                using Value = std::remove_reference_t<decltype(values.*to)>;
-                settings::forEachField([&](const char *name, auto from) {
-                    using Field = std::remove_cv_t<std::remove_reference_t<decltype(record.*from)>>;
-                    if constexpr (std::is_same_v<Value, Field>) {
-                        if (std::strcmp(name, key) == 0)
-                            values.*to = record.*from;
-                    }
-                });
-            },
-            presetMember);
-    });
-    using Item = settings::ContextMenuItem;
-    for (const Item &item : record.ContextMenuItems) {
-        switch (item.kind) {
-        case Item::Fullscreen:
-            values.ContextMenuFullscreen = true;
-            break;
-        case Item::NormalView:
-        case Item::LittlePlanetView:
-            values.ContextMenuViews = true;
-            break;
-        case Item::Gyroscope:
-            values.ContextMenuGyro = true;
-            break;
-        case Item::About:
-            values.ContextMenuAbout = true;
-            break;
-        case Item::Custom:
-            values.ContextMenuCustom = true;
-            values.ContextMenuCustomCaption = item.caption;
-            values.ContextMenuCustomAction = item.action;
-            break;
-        default:
-            break;
-        }
-    }
-    return values;
 }
 
 } // namespace vantora::dialogs

@@ -33,7 +33,7 @@ bool presetExists(const QString &settingsFolder, const QString &name)
     return !settingsFolder.isEmpty() && QFileInfo(presetFilePath(settingsFolder, name)).isFile();
 }
 
-bool writePresetFile(const QString &settingsFolder, const QString &name, const PresetValues &values)
+bool writePresetFile(const QString &settingsFolder, const QString &name, const Preset &preset)
 {
     if (settingsFolder.isEmpty())
         return false;
@@ -43,14 +43,13 @@ bool writePresetFile(const QString &settingsFolder, const QString &name, const P
         if (!QDir().mkpath(folder))
             return false;
     }
-    return writePresetValues(presetFilePath(settingsFolder, name), values);
+    return writePreset(presetFilePath(settingsFolder, name), preset);
 }
 
-PresetValues readPresetFile(const QString &settingsFolder, const QString &name)
+Preset readPresetFile(const QString &settingsFolder, const QString &name)
 {
     // An empty path reads nothing: every key takes its default.
-    return readPresetValues(
-        settingsFolder.isEmpty() ? QString() : presetFilePath(settingsFolder, name));
+    return readPreset(settingsFolder.isEmpty() ? QString() : presetFilePath(settingsFolder, name));
 }
 
 bool deletePresetFile(const QString &settingsFolder, const QString &name)

@@ -1,7 +1,7 @@
 // Named presets: one INI file each in the "appletSettings" folder beside the host's settings.
 #pragma once
 
-#include "presetkeys.h"
+#include "presetfile.h"
 
 #include <QStringList>
 
@@ -21,11 +21,10 @@ bool presetExists(const QString &settingsFolder, const QString &name);
 
 // Writes the preset, creating the preset folder (with its missing parents) first; a plain file in
 // the folder's place is removed. False when the folder cannot be made or a key not written.
-bool writePresetFile(
-    const QString &settingsFolder, const QString &name, const PresetValues &values);
+bool writePresetFile(const QString &settingsFolder, const QString &name, const Preset &preset);
 
 // The preset's values; the defaults for a missing preset.
-PresetValues readPresetFile(const QString &settingsFolder, const QString &name);
+Preset readPresetFile(const QString &settingsFolder, const QString &name);
 
 // Deletes the preset file; false when there was none or it could not be removed.
 bool deletePresetFile(const QString &settingsFolder, const QString &name);

@@ -1,7 +1,10 @@
 #include "settingsblock.h"
 
+#include "settingrowdata.h"
+
 #include <QtEndian>
 
+#include <array>
 #include <cstring>
 #include <iterator>
 #include <limits>
@@ -9,126 +12,96 @@
 namespace vantora::settings {
 namespace {
 
-using S = ViewerSettings;
+// The block's areas after the version word: integers (colours, numbers and the menu's item
+// count), the three rates, one byte per flag, then the strings. Each area is filled from the rows'
+// block table; the table no row takes are reserved: written as zero or empty, read and ignored.
+constexpr int INT_COUNT = 16;
+constexpr int RATE_COUNT = 3;
+constexpr int FLAG_COUNT = 37;
+constexpr int STRING_COUNT = 12;
 
-// The integers after the version word, in block order. Each group was appended by a later
-// version, so a block of version v holds exactly the rows whose `since` is at most v, packed.
-struct IntSlot
+struct Reserved
 {
+    BlockSlot::Area area;
+    int index;
     int since;
-    int S::*number;    // null for a colour or the menu item count
-    Colour S::*colour; // null for a number or the menu item count
+};
+constexpr Reserved RESERVED[] = {
+    {BlockSlot::Flag, 36, 12},
+    {BlockSlot::String, 9, 4},
+    {BlockSlot::String, 10, 4},
 };
 
-// clang-format off
-constexpr IntSlot INT_SLOTS[] = {
-    /*  8 */ {1,  nullptr,                         &S::TextColor},
-    /* 12 */ {1,  nullptr,                         &S::ShadowColor},
-    /* 16 */ {1,  &S::MouseMode,                   nullptr},
-    /* 20 */ {1,  &S::TouchMode,                   nullptr},
-    /* 24 */ {1,  &S::Position,                    nullptr},
-    /* 28 */ {1,  &S::TBDesign,                    nullptr},
-    /* 32 */ {1,  &S::Restart,                     nullptr},
-    /* 36 */ {3,  nullptr,                         nullptr}, // number of ContextMenuItems
-    /* 40 */ {5,  &S::GalleryButtons,              nullptr},
-    /* 44 */ {5,  &S::GalleryPosition,             nullptr},
-    /* 48 */ {8,  &S::OrientationElement,          nullptr},
-    /* 52 */ {8,  &S::OrientationElementPosition,  nullptr},
-    /* 56 */ {9,  &S::MapPosition,                 nullptr},
-    /* 60 */ {9,  &S::MapType,                     nullptr},
-    /* 64 */ {9,  &S::MapZoom,                     nullptr},
-    /* 68 */ {11, &S::VrDisplayType,               nullptr},
-};
-
-constexpr double S::*RATES[] = {&S::PanRate, &S::TiltRate, &S::ZoomRate};
-
-// One byte each, after the three rates, in index order; `since` never decreases down the table.
-struct FlagSlot
+struct Slot
 {
-    int since;
-    bool S::*flag;   // null for ZoomMode and the reserved byte
-    int S::*number;  // ZoomMode, kept as one byte
+    int row = -1; // into rows::ALL; -1 reserved (or, while building, not yet taken)
+    int since = 0;
+    bool count = false; // the menu's item count rather than a value of the row's field
 };
 
-constexpr FlagSlot FLAG_SLOTS[] = {
-    /*  0 */ {1,  &S::AddToolbar,              nullptr},
-    /*  1 */ {1,  &S::ShowToolbar,             nullptr},
-    /*  2 */ {1,  &S::ShowHotspots,            nullptr},
-    /*  3 */ {1,  &S::PlayButton,              nullptr},
-    /*  4 */ {1,  &S::ShowToolbarFullscreen,   nullptr},
-    /*  5 */ {1,  &S::ShowArrowButtons,        nullptr},
-    /*  6 */ {1,  &S::ShowZoomButtons,         nullptr},
-    /*  7 */ {1,  &S::AddGyro,                 nullptr},
-    /*  8 */ {1,  &S::GyroEnabled,             nullptr},
-    /*  9 */ {1,  &S::ShowInfoBox,             nullptr},
-    /* 10 */ {1,  &S::AddAudioButton,          nullptr},
-    /* 11 */ {1,  &S::AudioAutoplay,           nullptr},
-    /* 12 */ {1,  &S::AudioLoop,               nullptr},
-    /* 13 */ {1,  &S::ShowWebGLWarning,        nullptr},
-    /* 14 */ {1,  &S::AutoPlay,                nullptr},
-    /* 15 */ {1,  &S::LittlePlanetIntro,       nullptr},
-    /* 16 */ {2,  &S::HotspotsButton,          nullptr},
-    /* 17 */ {3,  &S::AddContextMenu,          nullptr},
-    /* 18 */ {3,  &S::ContextMenuSpare,        nullptr},
-    /* 19 */ {3,  &S::GyroButton,              nullptr},
-    /* 20 */ {3,  &S::AddVrMode,               nullptr},
-    /* 21 */ {5,  &S::AddGallery,              nullptr},
-    /* 22 */ {5,  &S::GalleryThumbnailVisible, nullptr},
-    /* 23 */ {6,  &S::InfoGlobal,              nullptr},
-    /* 24 */ {6,  &S::AudioGlobal,             nullptr},
-    /* 25 */ {7,  nullptr,                     &S::ZoomMode},
-    /* 26 */ {8,  &S::AddMap,                  nullptr},
-    /* 27 */ {8,  &S::AddOrientation,          nullptr},
-    /* 28 */ {8,  &S::PositionNorth,           nullptr},
-    /* 29 */ {9,  &S::MapVisible,              nullptr},
-    /* 30 */ {9,  &S::MapHideOnMarker,         nullptr},
-    /* 31 */ {9,  &S::MapRadar,                nullptr},
-    /* 32 */ {9,  &S::MapZoomControls,         nullptr},
-    /* 33 */ {9,  &S::MapTypeControls,         nullptr},
-    /* 34 */ {10, &S::ExtensionJS,             nullptr},
-    /* 35 */ {11, &S::VrGamepadEnabled,        nullptr},
-    /* 36 */ {12, nullptr,                     nullptr}, // reserved: written 0, ignored
-};
+template <int N> using Area = std::array<Slot, N>;
 
-// The strings after the flags, in block order, each present from its `since` version on. Unlike
-// the other tables this one is not ordered by version: ShortDescription64 (version 5) sits in front
-// of the menu items (version 3).
-enum class StringKind { Text, MenuItems, Reserved };
-struct StringSlot
+template <int N> constexpr Area<N> areaOf(BlockSlot::Area area)
 {
-    int since;
-    StringKind kind;
-    QString S::*text;
-};
+    Area<N> table {};
+    for (int r = 0; r < int(std::size(rows::ALL)); ++r) {
+        const BlockSlot &slot = rows::ALL[r].block;
+        if (slot.area == area)
+            table[slot.index] = {r, slot.since, false};
+        if (area == BlockSlot::Int && slot.countIndex >= 0)
+            table[slot.countIndex] = {r, slot.since, true};
+    }
+    for (const Reserved &reserved : RESERVED)
+        if (reserved.area == area)
+            table[reserved.index] = {-1, reserved.since, false};
+    return table;
+}
 
-constexpr StringSlot STRING_SLOTS[] = {
-    {1, StringKind::Text,      &S::Title64},
-    {1, StringKind::Text,      &S::LogoFile},
-    {1, StringKind::Text,      &S::LogoImage},
-    {1, StringKind::Text,      &S::LogoURL},
-    {1, StringKind::Text,      &S::Sound},
-    {1, StringKind::Text,      &S::SoundFile},
-    {1, StringKind::Text,      &S::InfoHTML64},
-    {5, StringKind::Text,      &S::ShortDescription64},
-    {3, StringKind::MenuItems, nullptr},
-    {4, StringKind::Reserved,  nullptr},
-    {4, StringKind::Reserved,  nullptr},
-    {9, StringKind::Text,      &S::GmAPIKey},
-};
-// clang-format on
+constexpr Area<INT_COUNT> INTS = areaOf<INT_COUNT>(BlockSlot::Int);
+constexpr Area<RATE_COUNT> RATES = areaOf<RATE_COUNT>(BlockSlot::Rate);
+constexpr Area<FLAG_COUNT> FLAGS = areaOf<FLAG_COUNT>(BlockSlot::Flag);
+constexpr Area<STRING_COUNT> STRINGS = areaOf<STRING_COUNT>(BlockSlot::String);
 
-static_assert(std::size(INT_SLOTS) == 16 && std::size(FLAG_SLOTS) == 37);
+// Every slot taken by one row or reserved, each exactly once.
+constexpr bool complete()
+{
+    int taken[5][STRING_COUNT + FLAG_COUNT] = {};
+    for (const SettingRow &row : rows::ALL) {
+        if (row.block.area != BlockSlot::None)
+            ++taken[row.block.area][row.block.index];
+        if (row.block.countIndex >= 0)
+            ++taken[BlockSlot::Int][row.block.countIndex];
+    }
+    for (const Reserved &reserved : RESERVED)
+        ++taken[reserved.area][reserved.index];
+    const int counts[5] = {0, INT_COUNT, RATE_COUNT, FLAG_COUNT, STRING_COUNT};
+    for (int area = 1; area < 5; ++area)
+        for (int i = 0; i < STRING_COUNT + FLAG_COUNT; ++i)
+            if (taken[area][i] != (i < counts[area] ? 1 : 0))
+                return false;
+    return true;
+}
+static_assert(complete(), "every block slot belongs to exactly one setting or is reserved");
 
-// Older versions are read by skipping the rows they lack, which only works while each version's
-// numbers and flags form a prefix of these tables.
-template <typename Slot, std::size_t N> constexpr bool versionsOnlyGrow(const Slot (&table)[N])
+// Older versions are read by skipping the table they lack, which only works while each version's
+// numbers, rates and flags form a prefix of their areas. The strings are not ordered by version:
+// ShortDescription64 (version 5) sits in front of the menu items (version 3).
+template <std::size_t N> constexpr bool versionsOnlyGrow(const std::array<Slot, N> &table)
 {
     for (std::size_t i = 1; i < N; ++i)
         if (table[i].since < table[i - 1].since)
             return false;
     return true;
 }
-static_assert(versionsOnlyGrow(INT_SLOTS) && versionsOnlyGrow(FLAG_SLOTS));
+static_assert(versionsOnlyGrow(INTS) && versionsOnlyGrow(RATES) && versionsOnlyGrow(FLAGS));
+
+// Calls visit(value) with the slot's field of `settings`.
+template <typename Settings, typename Visit>
+void visitSlot(const Slot &slot, Settings &settings, Visit &&visit)
+{
+    ContextMenuChoice unused;
+    visitValue(rows::ALL[slot.row], settings, unused, visit);
+}
 
 class BlockWriter
 {
@@ -220,34 +193,50 @@ QByteArray encodeSettingsBlock(const ViewerSettings &s)
     BlockWriter out;
     out.u32(0); // the total size, filled in by finish()
     out.u32(quint32(SETTINGS_BLOCK_VERSION));
-    for (const IntSlot &slot : INT_SLOTS) {
-        if (slot.colour)
-            out.u32(s.*slot.colour);
-        else if (slot.number)
-            out.u32(quint32(s.*slot.number));
-        else
-            out.u32(quint32(s.ContextMenuItems.size()));
+    for (const Slot &slot : INTS) {
+        visitSlot(slot, s, [&](const auto &value) {
+            using T = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<T, QList<ContextMenuItem>>)
+                out.u32(quint32(value.size()));
+            else if constexpr (std::is_same_v<T, int> || std::is_same_v<T, Colour>)
+                out.u32(quint32(value));
+        });
     }
-    for (double S::*rate : RATES)
-        out.f64(s.*rate);
-    for (const FlagSlot &slot : FLAG_SLOTS)
-        out.u8(slot.flag ? s.*slot.flag : slot.number && s.*slot.number != 0);
-    for (const StringSlot &slot : STRING_SLOTS) {
-        switch (slot.kind) {
-        case StringKind::Text:
-            out.string(s.*slot.text);
-            break;
-        case StringKind::MenuItems:
-            for (const ContextMenuItem &item : s.ContextMenuItems) {
-                out.u32(quint32(item.kind));
-                out.string(item.caption);
-                out.string(item.action);
-            }
-            break;
-        case StringKind::Reserved:
-            out.string(QString());
-            break;
+    for (const Slot &slot : RATES) {
+        visitSlot(slot, s, [&](const auto &value) {
+            if constexpr (std::is_same_v<std::decay_t<decltype(value)>, double>)
+                out.f64(value);
+        });
+    }
+    for (const Slot &slot : FLAGS) {
+        if (slot.row < 0) {
+            out.u8(false);
+            continue;
         }
+        // ZoomMode, a number, is kept as one byte too.
+        visitSlot(slot, s, [&](const auto &value) {
+            using T = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, int>)
+                out.u8(value != 0);
+        });
+    }
+    for (const Slot &slot : STRINGS) {
+        if (slot.row < 0) {
+            out.string(QString());
+            continue;
+        }
+        visitSlot(slot, s, [&](const auto &value) {
+            using T = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<T, QString>) {
+                out.string(value);
+            } else if constexpr (std::is_same_v<T, QList<ContextMenuItem>>) {
+                for (const ContextMenuItem &item : value) {
+                    out.u32(quint32(item.kind));
+                    out.string(item.caption);
+                    out.string(item.action);
+                }
+            }
+        });
     }
     return out.finish();
 }
@@ -264,30 +253,45 @@ bool decodeSettingsBlock(const unsigned char *block, ViewerSettings &settings)
 
     ViewerSettings s = settings;
     qint32 itemCount = 0;
-    for (const IntSlot &slot : INT_SLOTS) {
+    for (const Slot &slot : INTS) {
         if (slot.since > version)
             continue;
-        const quint32 value = in.u32();
-        if (slot.colour)
-            s.*slot.colour = value;
-        else if (slot.number)
-            s.*slot.number = qint32(value);
-        else
-            itemCount = qint32(value);
+        const quint32 word = in.u32();
+        if (slot.count) {
+            itemCount = qint32(word);
+            continue;
+        }
+        visitSlot(slot, s, [&](auto &value) {
+            using T = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<T, int>)
+                value = qint32(word);
+            else if constexpr (std::is_same_v<T, Colour>)
+                value = word;
+        });
     }
     // Blocks from before the gallery had its position kept it below the toolbar.
     if (version < 5)
         s.GalleryPosition = 1;
-    for (double S::*rate : RATES)
-        s.*rate = in.f64();
-    for (const FlagSlot &slot : FLAG_SLOTS) {
+    for (const Slot &slot : RATES) {
+        const double rate = in.f64();
+        visitSlot(slot, s, [&](auto &value) {
+            if constexpr (std::is_same_v<std::decay_t<decltype(value)>, double>)
+                value = rate;
+        });
+    }
+    for (const Slot &slot : FLAGS) {
         if (slot.since > version)
             continue;
-        const bool value = in.u8();
-        if (slot.flag)
-            s.*slot.flag = value;
-        else if (slot.number)
-            s.*slot.number = value ? 1 : 0;
+        const bool flag = in.u8();
+        if (slot.row < 0)
+            continue;
+        visitSlot(slot, s, [&](auto &value) {
+            using T = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<T, bool>)
+                value = flag;
+            else if constexpr (std::is_same_v<T, int>)
+                value = flag ? 1 : 0;
+        });
     }
     // Before the gyroscope button had a flag of its own it came with the gyroscope control.
     if (version < 3)
@@ -296,27 +300,28 @@ bool decodeSettingsBlock(const unsigned char *block, ViewerSettings &settings)
     s.ContextMenuItems.clear();
     if (itemCount < 0)
         in.reject();
-    for (const StringSlot &slot : STRING_SLOTS) {
+    for (const Slot &slot : STRINGS) {
         if (slot.since > version)
             continue;
-        switch (slot.kind) {
-        case StringKind::Text:
-            s.*slot.text = in.string();
-            break;
-        case StringKind::MenuItems:
-            // Each item needs at least 12 bytes, so a lying count ends at the block's end.
-            for (qint32 i = 0; i < itemCount && in.ok(); ++i) {
-                ContextMenuItem item;
-                item.kind = in.i32();
-                item.caption = in.string();
-                item.action = in.string();
-                s.ContextMenuItems.append(item);
-            }
-            break;
-        case StringKind::Reserved:
+        if (slot.row < 0) {
             in.string();
-            break;
+            continue;
         }
+        visitSlot(slot, s, [&](auto &value) {
+            using T = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<T, QString>) {
+                value = in.string();
+            } else if constexpr (std::is_same_v<T, QList<ContextMenuItem>>) {
+                // Each item needs at least 12 bytes, so a lying count ends at the block's end.
+                for (qint32 i = 0; i < itemCount && in.ok(); ++i) {
+                    ContextMenuItem item;
+                    item.kind = in.i32();
+                    item.caption = in.string();
+                    item.action = in.string();
+                    value.append(item);
+                }
+            }
+        });
     }
     if (!in.ok())
         return false;

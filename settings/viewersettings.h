@@ -1,8 +1,10 @@
-// The one record of every viewer option, with its defaults; each field bears its INI key as name.
+// The one record of every viewer option; its fields and defaults come from settingrows.h.
 #pragma once
 
 #include <QList>
 #include <QString>
+
+#include "settingrows.h"
 
 namespace vantora::settings {
 
@@ -33,96 +35,37 @@ struct ContextMenuItem
 // Colours hold 0xRRGGBB in their low 24 bits.
 using Colour = unsigned int;
 
-// Defaults live here and nowhere else. The two host-dependent defaults (AddGyro, GyroButton)
-// are settled by resetViewerSettings(), which reads the current host.
+#define VANTORA_SETTINGS_MEMBER(name, type, value, ini, ...) type name = value;
+#define VANTORA_SETTINGS_NONE(...)
+
+// The record: one member per FIELD row of settingrows.h, with the row's default. The two
+// host-dependent defaults (AddGyro, GyroButton) are settled by resetViewerSettings(), which reads
+// the current host; the reset also fills in the default menu.
 struct ViewerSettings
 {
-    // General and look
-    QString Title64;
-    QString ShortDescription64;
-    QString LogoImage;
-    QString LogoURL;
-    QString LogoFile; // filled by the export run
-    Colour TextColor = 0xFFFFFF;
-    Colour ShadowColor = 0x000000;
-    bool ShowHotspots = true;
-    bool ShowWebGLWarning = false;
-    bool ExtensionJS = false;
-
-    // Toolbar
-    bool AddToolbar = true;
-    bool ShowToolbar = true;
-    int TBDesign = 0;
-    int Position = 0;
-    bool PlayButton = true;
-    bool ShowToolbarFullscreen = true;
-    bool ShowArrowButtons = true;
-    bool ShowZoomButtons = true;
-    bool ShowInfoBox = false;
-    bool AddAudioButton = true;
-    bool HotspotsButton = false;
-    bool GyroButton = false; // host-dependent
-
-    // Audio
-    QString Sound;
-    QString SoundFile; // filled by the export run
-    bool AudioAutoplay = true;
-    bool AudioLoop = true;
-    bool AudioGlobal = false;
-
-    // Info box
-    QString InfoHTML64;
-    bool InfoGlobal = false;
-
-    // Auto-play
-    bool AutoPlay = false;
-    int Restart = 5;
-    double PanRate = 2.0;
-    double TiltRate = 0.0;
-    double ZoomRate = 1.0;
-    bool LittlePlanetIntro = false;
-
-    // Control
-    int MouseMode = 1;
-    int TouchMode = 1;
-    int ZoomMode = 0;
-    bool AddGyro = false; // host-dependent
-    bool GyroEnabled = false;
-
-    // Context menu
-    bool AddContextMenu = true;
-    QList<ContextMenuItem> ContextMenuItems; // the eight defaults come from the reset
-    bool ContextMenuSpare = false;
-
-    // Tour gallery
-    bool AddGallery = false;
-    int GalleryButtons = 0;
-    int GalleryPosition = 0;
-    bool GalleryThumbnailVisible = false;
-
-    // Compass and radar
-    bool AddOrientation = false;
-    int OrientationElement = 0;
-    int OrientationElementPosition = 0;
-    bool PositionNorth = false;
-
-    // Map
-    bool AddMap = false;
-    int MapPosition = 0;
-    int MapType = 0;
-    QString GmAPIKey;
-    int MapZoom = 18;
-    bool MapVisible = false;
-    bool MapHideOnMarker = true;
-    bool MapRadar = true;
-    bool MapZoomControls = true;
-    bool MapTypeControls = true;
-
-    // VR mode
-    bool AddVrMode = false;
-    bool VrGamepadEnabled = true;
-    int VrDisplayType = 0;
+    VANTORA_SETTINGS_TABLE(VANTORA_SETTINGS_MEMBER, VANTORA_SETTINGS_NONE)
 };
+
+// The context menu as a preset file and the settings dialog's check boxes keep it: which of the
+// fixed entries are on, and the user-defined entry's texts (kept while that entry is off).
+struct ContextMenuChoice
+{
+    VANTORA_SETTINGS_TABLE(VANTORA_SETTINGS_NONE, VANTORA_SETTINGS_MEMBER)
+
+    bool operator==(const ContextMenuChoice &other) const;
+    bool operator!=(const ContextMenuChoice &other) const { return !(*this == other); }
+};
+
+#undef VANTORA_SETTINGS_MEMBER
+#undef VANTORA_SETTINGS_NONE
+
+// The entries a choice stands for, the way the settings dialog builds them: full screen, the two
+// views, the user-defined entry, the gyroscope, the about entry, a separator in front of each
+// group but the first.
+QList<ContextMenuItem> menuItemsOf(const ContextMenuChoice &choice);
+// The choice a list of entries shows: each entry ticks its box, separators are skipped, the last
+// user-defined entry gives the texts.
+ContextMenuChoice menuChoiceOf(const QList<ContextMenuItem> &items);
 
 // The context menu a fresh record offers: full screen, the view pair, gyroscope and about, with
 // separators between the groups.

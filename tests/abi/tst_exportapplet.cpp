@@ -5,7 +5,7 @@
 #include "common/scriptcheck.h"
 #include "common/textcompare.h"
 #include "settings/settingsblock.h"
-#include "settings/viewersettingsfields.h"
+#include "settings/settingstable.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -5,10 +5,9 @@
 #include "common/modaldriver.h"
 #include "common/textcompare.h"
 #include "settings/hostini.h"
-#include "settings/presetkeys.h"
 #include "settings/settingsblock.h"
+#include "settings/settingstable.h"
 #include "settings/viewersettings.h"
-#include "settings/viewersettingsfields.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -97,13 +96,11 @@ QList<Control> controlTable()
 QVariant fieldOf(const ViewerSettings &record, const QString &name)
 {
     QVariant value;
-    vantora::settings::forEachField([&](const char *field, auto member) {
-        using T = std::decay_t<decltype(record.*member)>;
-        if constexpr (
-            std::is_same_v<T,
-                bool> || std::is_same_v<T, int> || std::is_same_v<T, double> || std::is_same_v<T, QString> || std::is_same_v<T, unsigned>) {
-            if (name == QLatin1String(field))
-                value = QVariant::fromValue(record.*member);
+    vantora::settings::forEachField(record, [&](const auto &row, const auto &field) {
+        using T = std::decay_t<decltype(field)>;
+        if constexpr (!std::is_same_v<T, QList<ContextMenuItem>>) {
+            if (name == QLatin1String(row.name))
+                value = QVariant::fromValue(field);
         }
     });
     return value;
@@ -161,10 +158,8 @@ QStringList differencesShown(QWidget *dialog, const ViewerSettings &record)
 QStringList differences(const ViewerSettings &a, const ViewerSettings &b)
 {
     QStringList names;
-    vantora::settings::forEachField([&](const char *name, auto member) {
-        if (!(a.*member == b.*member))
-            names << QLatin1String(name);
-    });
+    for (const char *name : vantora::settings::differingFields(a, b))
+        names << QLatin1String(name);
     return names;
 }
 
@@ -175,9 +170,9 @@ ViewerSettings distinctRecord()
     ViewerSettings s;
     vantora::settings::resetViewerSettings(s, true);
     bool flag = false;
-    vantora::settings::forEachField([&](const char *, auto member) {
-        if constexpr (std::is_same_v<std::decay_t<decltype(s.*member)>, bool>)
-            s.*member = (flag = !flag);
+    vantora::settings::forEachField(s, [&](const auto &, auto &field) {
+        if constexpr (std::is_same_v<std::decay_t<decltype(field)>, bool>)
+            field = (flag = !flag);
     });
     s.Title64 = QStringLiteral("Hafen bei Nacht ä");
     s.ShortDescription64 = QStringLiteral("Der Hafen");

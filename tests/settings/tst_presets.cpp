@@ -3,6 +3,7 @@
 #include "common/textcompare.h"
 #include "settings/hostini.h"
 #include "settings/presets.h"
+#include "settings/settingstable.h"
 
 #include <QtTest>
 
@@ -35,13 +36,16 @@ bool writeFile(const QString &path, const QByteArray &bytes)
 }
 
 // The value of a preset key as text: numbers and flags in decimal, texts as they stand.
-QString valueOf(const PresetValues &values, const QString &key)
+QString valueOf(const Preset &preset, const QString &key)
 {
     QVariant value = "<no key " + key + ">";
-    forEachPresetField([&](const char *name, PresetField field) {
-        if (key == QLatin1String(name))
-            std::visit([&](auto member) { value = QVariant::fromValue(values.*member); }, field);
-    });
+    for (const SettingRow &row : settingRows())
+        if (row.inPresets() && key == QLatin1String(row.name))
+            visitValue(row, preset.settings, preset.menu, [&](const auto &field) {
+                if constexpr (!std::is_same_v<std::decay_t<decltype(field)>,
+                                  QList<ContextMenuItem>>)
+                    value = QVariant::fromValue(field);
+            });
     return value.type() == QVariant::Bool ? QString::number(value.toInt()) : value.toString();
 }
 
@@ -78,14 +82,15 @@ private slots:
     {
         const QByteArray original = readFileBytes(dataFile("changed_preset_utf16.ini"));
         QVERIFY(writeFile(m_settings + "source.ini", original));
-        const PresetValues values = readPresetValues(m_settings + "source.ini");
+        const Preset preset = readPreset(m_settings + "source.ini");
+        const ViewerSettings &values = preset.settings;
         QCOMPARE(values.Title64, "Gipfel über Zürich");
         QCOMPARE(values.Sound, "C:\\Ton\\wind 😀.mp3");
         QCOMPARE(values.PanRate, -4.25);
         QCOMPARE(values.ShadowColor, 8421504u);
-        QVERIFY(writePresetFile(m_settings, "copy", values));
+        QVERIFY(writePresetFile(m_settings, "copy", preset));
         QCOMPARE(readFileBytes(m_settings + "appletSettings/copy.ini"), original);
-        QVERIFY(readPresetFile(m_settings, "copy") == values);
+        QVERIFY(readPresetFile(m_settings, "copy") == preset);
     }
 
     void readRules_data()
@@ -148,7 +153,7 @@ private slots:
         const QString path = m_settings + "rules.ini";
         const QString section = lines.startsWith('[') ? QString() : QStringLiteral("[Applet]\n");
         QVERIFY(writeFile(path, utf16File(section + lines + '\n')));
-        QCOMPARE(valueOf(readPresetValues(path), key), expected);
+        QCOMPARE(valueOf(readPreset(path), key), expected);
     }
 
     // An 8-bit preset of an older version: read as it stands; saving over it converts it keeping
@@ -158,7 +163,8 @@ private slots:
         QVERIFY(QDir().mkpath(m_settings + "appletSettings"));
         const QString path = presetFilePath(m_settings, "alt");
         QVERIFY(QFile::copy(dataFile("legacy_ansi.ini"), path));
-        const PresetValues v = readPresetFile(m_settings, "alt");
+        const Preset original = readPresetFile(m_settings, "alt");
+        const ViewerSettings &v = original.settings;
         QCOMPARE(v.Title64, "Grün");
         QCOMPARE(v.Position, 1);
         QVERIFY(v.AddGyro && v.GyroButton && !v.GyroEnabled);
@@ -166,11 +172,11 @@ private slots:
 
         // The three [Toolbar] keys go into the 8-bit file; the first string key then keeps only
         // its first line, so they fall back to their defaults, while the legacy Title is gone.
-        PresetValues changed = v;
-        changed.Position = 2;
-        changed.Title64 = "Neu";
+        Preset changed = original;
+        changed.settings.Position = 2;
+        changed.settings.Title64 = "Neu";
         QVERIFY(writePresetFile(m_settings, "alt", changed));
-        const PresetValues reread = readPresetFile(m_settings, "alt");
+        const ViewerSettings reread = readPresetFile(m_settings, "alt").settings;
         QCOMPARE(reread.Position, 0);
         QCOMPARE(reread.Title64, "Neu");
         QCOMPARE(reread.MapZoom, 20);
@@ -197,7 +203,7 @@ private slots:
         const QString path = m_settings + "editor.ini";
         QVERIFY(writeFile(path, bytes));
         bool readable = false;
-        const PresetValues values = readPresetValues(path, &readable);
+        const ViewerSettings values = readPreset(path, &readable).settings;
         QVERIFY(readable);
         QCOMPARE(values.Title64, QStringLiteral("Gr\u00fcn \u00fcber Z\u00fcrich"));
         QCOMPARE(values.MapZoom, 7);
@@ -208,22 +214,22 @@ private slots:
     {
         QVERIFY(QDir().mkpath(m_settings + "folder.ini"));
         bool readable = true;
-        readPresetValues(m_settings + "folder.ini", &readable);
+        readPreset(m_settings + "folder.ini", &readable);
         QVERIFY(!readable);
-        readPresetValues(m_settings + "missing.ini", &readable);
+        readPreset(m_settings + "missing.ini", &readable);
         QVERIFY(readable); // a missing preset is simply the defaults
-        QVERIFY(!writePresetValues(m_settings + "folder.ini", PresetValues()));
+        QVERIFY(!writePreset(m_settings + "folder.ini", Preset()));
         QVERIFY(QFileInfo(m_settings + "folder.ini").isDir());
     }
 
     void namesAndFiles()
     {
-        PresetValues values = readPresetFile(m_settings, QString());
-        values.TBDesign = 4;
+        Preset values = readPresetFile(m_settings, QString());
+        values.settings.TBDesign = 4;
         QVERIFY(writePresetFile(m_settings, "a/b\\c", values));
         QVERIFY(QFileInfo(m_settings + "appletSettings/a_b_c.ini").isFile());
         QVERIFY(presetExists(m_settings, "a_b_c"));
-        QCOMPARE(readPresetFile(m_settings, "a/b/c").TBDesign, 4);
+        QCOMPARE(readPresetFile(m_settings, "a/b/c").settings.TBDesign, 4);
 
         for (const char *name : {"zeta.ini", "Alpha.ini", "beta.INI", "notes.txt", "ini"})
             QVERIFY(writeFile(m_settings + "appletSettings/" + name, ""));
@@ -240,12 +246,12 @@ private slots:
         // A plain file in the folder's place gives way; a file in the settings folder's place
         // cannot, and the save fails.
         QVERIFY(writeFile(m_settings + "appletSettings", "in the way"));
-        QVERIFY(writePresetFile(m_settings, "x", PresetValues()));
+        QVERIFY(writePresetFile(m_settings, "x", Preset()));
         QVERIFY(presetExists(m_settings, "x"));
 
         QVERIFY(writeFile(m_settings + "file", "a file"));
-        QVERIFY(!writePresetFile(m_settings + "file/", "x", PresetValues()));
-        QVERIFY(!writePresetFile(QString(), "x", PresetValues()));
+        QVERIFY(!writePresetFile(m_settings + "file/", "x", Preset()));
+        QVERIFY(!writePresetFile(QString(), "x", Preset()));
         QCOMPARE(presetNames(QString()), QStringList());
     }
 

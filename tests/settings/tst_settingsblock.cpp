@@ -3,7 +3,7 @@
 #include "common/textcompare.h"
 #include "plugin/pluginstate.h"
 #include "settings/settingsblock.h"
-#include "settings/viewersettingsfields.h"
+#include "settings/settingstable.h"
 
 #include <QtEndian>
 #include <QtTest>
@@ -43,8 +43,8 @@ QStringList names(const QList<const char *> &fields)
 ViewerSettings everyFieldChanged()
 {
     ViewerSettings s = defaults();
-    forEachField([&s](const char *name, auto member) {
-        auto &field = s.*member;
+    forEachField(s, [](const SettingRow &row, auto &field) {
+        const char *name = row.name;
         using T = std::remove_reference_t<decltype(field)>;
         if constexpr (std::is_same_v<T, bool>)
             field = !field;
@@ -81,12 +81,12 @@ const QVariantMap MARKERS {
 ViewerSettings markers()
 {
     ViewerSettings s = defaults();
-    forEachField([&s](const char *name, auto member) {
-        using T = std::remove_reference_t<decltype(s.*member)>;
+    forEachField(s, [](const SettingRow &row, auto &field) {
+        using T = std::remove_reference_t<decltype(field)>;
         if constexpr (std::is_same_v<T, bool>)
-            s.*member = !(s.*member);
+            field = !field;
         else if constexpr (!std::is_same_v<T, QList<ContextMenuItem>>)
-            s.*member = MARKERS.value(QLatin1String(name), "missing").value<T>();
+            field = MARKERS.value(QLatin1String(row.name), "missing").value<T>();
     });
     s.ContextMenuItems = {{7, QStringLiteral("Über uns"), QStringLiteral("alert('ä');")},
         {0, QString(), QString()}, {5, QString(), QString()}};
@@ -124,9 +124,14 @@ ViewerSettings markersOf(int version)
             present << QString::fromLatin1(group.fields).split(' ');
     const ViewerSettings m = markers();
     ViewerSettings s = defaults();
-    forEachField([&](const char *name, auto member) {
-        if (present.contains(QLatin1String(name)))
-            s.*member = m.*member;
+    ContextMenuChoice unused;
+    forEachField(s, [&](const SettingRow &row, auto &field) {
+        if (present.contains(QLatin1String(row.name)))
+            visitValue(row, m, unused, [&](const auto &marker) {
+                if constexpr (std::is_same_v<std::decay_t<decltype(marker)>,
+                                  std::decay_t<decltype(field)>>)
+                    field = marker;
+            });
     });
     if (version < 5)
         s.GalleryPosition = 1;

@@ -1,6 +1,6 @@
 #include "settingsfile.h"
 
-#include "settings/presetrecord.h"
+#include "settings/presetfile.h"
 #include "settings/settingsblock.h"
 
 namespace vantora::cli {
@@ -13,7 +13,7 @@ QByteArray settingsBlockFor(const CliOptions &options)
     // A command-line host has no motion sensor of its own to offer the gyroscope for.
     settings::resetViewerSettings(record, false);
     if (!options.settingsFile.isEmpty())
-        settings::applyPresetValues(settings::readPresetValues(options.settingsFile), record);
+        settings::applyPreset(settings::readPreset(options.settingsFile), record);
     if (options.title)
         record.Title64 = *options.title;
     return settings::encodeSettingsBlock(record);
