@@ -250,30 +250,31 @@ void AppletSettingsDlg::queryLocation(bool *orientation, bool *location) const
     *location = hasLocation != 0;
 }
 
+void AppletSettingsDlg::showLocationGroup(QGroupBox *group, bool present, const char *title)
+{
+    const QString plain = QCoreApplication::translate("AppletSettingsDlg", title);
+    group->setTitle(present
+            ? plain
+            : QCoreApplication::translate("AppletSettingsDlg", "%1 (keine Daten vorhanden)")
+                  .arg(plain));
+    group->setEnabled(present);
+    group->setPalette(present ? m_dataPalette : m_noDataPalette);
+}
+
 void AppletSettingsDlg::refreshOrientationGroup()
 {
     bool orientation = false, location = false;
     queryLocation(&orientation, &location);
-    QGroupBox *group = page_5->addOrientationBox;
-    group->setTitle(orientation
-            ? QCoreApplication::translate("AppletSettingsDlg", "Orientierung ausgeben")
-            : QCoreApplication::translate(
-                "AppletSettingsDlg", "Orientierung ausgeben (keine Daten vorhanden)"));
-    group->setEnabled(orientation);
-    group->setPalette(orientation ? m_dataPalette : m_noDataPalette);
+    showLocationGroup(page_5->addOrientationBox, orientation,
+        QT_TRANSLATE_NOOP("AppletSettingsDlg", "Orientierung ausgeben"));
 }
 
 void AppletSettingsDlg::refreshMapGroup()
 {
     bool orientation = false, location = false;
     queryLocation(&orientation, &location);
-    QGroupBox *group = mapPage->addMapBox;
-    group->setTitle(location
-            ? QCoreApplication::translate("AppletSettingsDlg", "Standort in Karte anzeigen")
-            : QCoreApplication::translate(
-                "AppletSettingsDlg", "Standort in Karte anzeigen (keine Daten vorhanden)"));
-    group->setEnabled(location);
-    group->setPalette(location ? m_dataPalette : m_noDataPalette);
+    showLocationGroup(mapPage->addMapBox, location,
+        QT_TRANSLATE_NOOP("AppletSettingsDlg", "Standort in Karte anzeigen"));
     mapPage->mapTypeControlBox->setVisible(mapPage->mapTypeBox->currentIndex() != 3);
 }
 

@@ -12,6 +12,7 @@
 #include <QPalette>
 
 class QAbstractButton;
+class QGroupBox;
 class QToolButton;
 
 namespace vantora::plugin {
@@ -81,6 +82,8 @@ private:
     void refreshPage();
     void refreshOrientationGroup();
     void refreshMapGroup();
+    // The group's title (with a note when the host has no data), enabled state and palette.
+    void showLocationGroup(QGroupBox *group, bool present, const char *title);
     void mapCheck();
     void setColour(QToolButton *button, settings::Colour *slot, settings::Colour colour);
     void chooseColour(QToolButton *button, settings::Colour *slot);

@@ -96,16 +96,8 @@
         <translation>Output the orientation</translation>
     </message>
     <message>
-        <source>Orientierung ausgeben (keine Daten vorhanden)</source>
-        <translation>Output the orientation (no data available)</translation>
-    </message>
-    <message>
         <source>Standort in Karte anzeigen</source>
         <translation>Show the location on a map</translation>
-    </message>
-    <message>
-        <source>Standort in Karte anzeigen (keine Daten vorhanden)</source>
-        <translation>Show the location on a map (no data available)</translation>
     </message>
     <message>
         <source>Audiodatei einfügen</source>
@@ -186,6 +178,10 @@ The settings stay as they were.</translation>
     <message>
         <source>Standard-Einstellungen wiederherstellen</source>
         <translation>Restore the default settings</translation>
+    </message>
+    <message>
+        <source>%1 (keine Daten vorhanden)</source>
+        <translation>%1 (no data available)</translation>
     </message>
 </context>
 <context>

@@ -246,9 +246,8 @@ class tst_SettingsDlg : public QObject, BenchUser
     Q_OBJECT
 
     std::unique_ptr<QWidget> m_parent;
-    std::unique_ptr<ModalDriver> m_driver;
+    DriverSession m_session;
     std::uint64_t m_document = 0;
-    QStringList m_problems;
     HostHotspot m_hotspot {};
     HostHotspot *m_hotspotPointers[1] = {&m_hotspot};
     HostHotspotList m_hotspots {m_hotspotPointers, m_hotspotPointers + 1};
@@ -260,22 +259,7 @@ class tst_SettingsDlg : public QObject, BenchUser
         return word;
     }
 
-    ModalDriver &driver()
-    {
-        collectProblems();
-        m_driver = std::make_unique<ModalDriver>();
-        return *m_driver;
-    }
-
-    void collectProblems()
-    {
-        if (!m_driver)
-            return;
-        m_problems << m_driver->problems();
-        if (!m_driver->finished())
-            m_problems << "a step was left over";
-        m_driver.reset();
-    }
+    ModalDriver &driver() { return m_session.next(); }
 
     QString settingsFolder() const { return m_bench->root + "settings/"; }
 
@@ -338,8 +322,7 @@ private slots:
 
     void cleanup()
     {
-        collectProblems();
-        const QStringList problems = std::exchange(m_problems, QStringList());
+        const QStringList problems = m_session.takeProblems();
         QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
         QVERIFY(!QApplication::activeModalWidget());
     }
