@@ -13,7 +13,10 @@ namespace vantora::dialogs {
 // dialog, null for the others.
 void setUpDialog(QDialog *dialog, HostContext *host, HostContext *hookRecord);
 
-// `pixels` multiplied by the host's UI scale factor for `widget` (1 without a host operation).
+// The host's UI scale factor for `widget`: 1 without a host operation or for a nonsensical answer.
+double uiScaleFactor(const HostContext *host, QWidget *widget);
+
+// `pixels` multiplied by the host's UI scale factor for `widget`, rounded.
 int scaledPixels(const HostContext *host, QWidget *widget, int pixels);
 
 } // namespace vantora::dialogs

@@ -1,5 +1,6 @@
 #include "maindlg.h"
 
+#include "appletsettingsdlg.h"
 #include "dialogframe.h"
 #include "fovdlg.h"
 #include "qualitydlg.h"
@@ -145,6 +146,13 @@ void MainDlg::on_pageSizeBox_toggled(bool checked)
         = {widthLabel, widthBox, heightLabel, heightBox, pixelLabel};
     for (QWidget *control : sizeControls)
         control->setEnabled(!checked);
+}
+
+void MainDlg::on_settingsButton_clicked()
+{
+    AppletSettingsDlg dialog(this);
+    if (dialog.exec() == QDialog::Accepted)
+        dialog.storeToSettings();
 }
 
 void MainDlg::on_fovButton_clicked()

@@ -33,6 +33,7 @@ private slots:
     void on_typeBox_currentIndexChanged(int index);
     void on_scaleBox_currentIndexChanged(int index);
     void on_pageSizeBox_toggled(bool checked);
+    void on_settingsButton_clicked();
     void on_fovButton_clicked();
     void on_qualityButton_clicked();
     void on_outBox_accepted();

@@ -9,6 +9,8 @@
 #include <QTimer>
 #include <QTimerEvent>
 
+#include <utility>
+
 namespace vantora::test {
 namespace {
 
@@ -79,6 +81,29 @@ void ModalDriver::timerEvent(QTimerEvent *event)
     m_steps.pop_front();
     m_lastActed = modal;
     step.act(modal);
+}
+
+ModalDriver &DriverSession::next()
+{
+    collect();
+    m_driver = std::make_unique<ModalDriver>();
+    return *m_driver;
+}
+
+QStringList DriverSession::takeProblems()
+{
+    collect();
+    return std::exchange(m_problems, QStringList());
+}
+
+void DriverSession::collect()
+{
+    if (!m_driver)
+        return;
+    m_problems << m_driver->problems();
+    if (!m_driver->finished())
+        m_problems << QStringLiteral("a step was left over");
+    m_driver.reset();
 }
 
 void clickLater(QWidget *button)

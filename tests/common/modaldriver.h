@@ -9,6 +9,7 @@
 
 #include <deque>
 #include <functional>
+#include <memory>
 
 namespace vantora::test {
 
@@ -45,6 +46,23 @@ private:
     QStringList m_problems;
     int m_timerId = 0;
     int m_idleTicks = 0;
+};
+
+// What a test that drives dialogs keeps from one call of the library to the next: a new driver
+// for each call, and what the earlier drivers found, for the test's cleanup to report.
+class DriverSession
+{
+public:
+    // A fresh driver; the previous one's problems are kept.
+    ModalDriver &next();
+    ModalDriver &current() { return *m_driver; }
+    // Every problem found so far (a step left over counts), and a clean slate.
+    QStringList takeProblems();
+
+private:
+    void collect();
+    std::unique_ptr<ModalDriver> m_driver;
+    QStringList m_problems;
 };
 
 // Helpers for actions: widgets by object name, and clicks that return at once (a click that

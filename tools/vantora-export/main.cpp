@@ -8,6 +8,7 @@
 #include "plugin/outputstage.h"
 #include "report.h"
 #include "resources/resources.h"
+#include "settingsdialog.h"
 #include "settingsfile.h"
 #include "toolpaths.h"
 
@@ -89,10 +90,17 @@ void filterQtMessages(QtMsgType type, const QMessageLogContext &context, const Q
 bool asksForDialogs(int argc, char *argv[])
 {
     for (int i = 1; i < argc; ++i) {
-        if (qstrcmp(argv[i], "--interactive") == 0)
+        if (qstrcmp(argv[i], "--interactive") == 0 || qstrcmp(argv[i], "--settings-dialog") == 0)
             return true;
     }
     return false;
+}
+
+// The preset file after --settings-dialog, which replaces an export; empty without one.
+QString presetToEdit(const QStringList &arguments)
+{
+    const int at = arguments.indexOf(QStringLiteral("--settings-dialog"));
+    return at > 0 && at + 1 < arguments.size() ? arguments[at + 1] : QString();
 }
 
 } // namespace
@@ -112,6 +120,13 @@ int main(int argc, char *argv[])
     // The map markers the library asks the host to export are the library's own pictures; the
     // tool carries them through the library's sources it links anyway.
     vantora::resources::ensureRegistered();
+
+    if (dialogs && QCoreApplication::arguments().contains(QStringLiteral("--settings-dialog"))) {
+        const QString preset = presetToEdit(QCoreApplication::arguments());
+        if (preset.isEmpty())
+            return fail(EXIT_BAD_INPUT, QStringLiteral("--settings-dialog needs a preset file"));
+        return editPresetFile(preset);
+    }
 
     CliOptions options;
     QString message;
