@@ -1,7 +1,7 @@
 // The controls of the controls file in Chromium: every toolbar design in every position, exported
 // once each by the reference host with every button switched on. Each page: no error, the toolbar
 // at its place with its buttons in order, every face painted; one page per design: a click on
-// every button has its effect. At the end: how many of the files' handler and action texts ran.
+// every button has its effect. The handler and action texts that ran go to the suite-wide count.
 //
 //   node controls.test.mjs TOOL WORKDIR NODE_MODULES
 import assert from 'node:assert/strict';
@@ -9,7 +9,7 @@ import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
 import { exportPage, writeGradient, writeTone, readParams } from './fixtures.mjs';
-import { H, W, launchBrowser, openViewer, testArgs, viewerCall as call } from './browser.mjs';
+import { H, W, handlerTexts, launchBrowser, openViewer, scriptRecorder, testArgs, viewerCall as call, writeHandlerLog } from './browser.mjs';
 import { startServer } from './server.mjs';
 
 const { tool, work, modules } = testArgs('controls.test.mjs');
@@ -285,34 +285,17 @@ async function checkGerman(context, dir) {
   }
 }
 
-// Texts that only VR mode and leaving the page run (the stereo buttons' onclick, onentervrmode,
-// onexitvrmode, onexit): they come with the viewer's VR and tour. Every other text must run.
-const PENDING = [/^function\(\)\{ this\.viewer\.exitVRMode\(\);  \} $/, /^function\(\)\{ this\.viewer\.action\('hideMessage'\); var tb = this\.get\('toolbar'\); tb&&tb\.setVisible\(false\);/,
-  /^function\(\)\{  var tb = this\.get\('toolbar'\); tb&&tb\.setVisible\(true\);/, /this\.viewer\.gyroWasEnabled = this\.viewer\.gyroAvailable&&/];
-
-function handlerTexts(dir) {
-  const texts = new Set();
-  const visit = (value) => {
-    if (typeof value === 'string') { if (/^\s*function\s*\(/.test(value)) texts.add(value); } else if (value && typeof value === 'object') Object.values(value).forEach(visit);
-  };
-  for (const file of fs.readdirSync(dir).filter((f) => /\.json$/.test(f))) visit(readParams(path.join(dir, file)));
-  return texts;
-}
-
 async function main() {
   const started = Date.now();
   const pages = buildPages();
   const tiles = new Set();
-  const allTexts = new Set();
   for (const p of pages) {
     const text = fs.readFileSync(path.join(p.dir, 'room_controls.json'), 'utf8');
     for (const m of text.matchAll(/copy\(defaultSkin,(\d+),(\d+)/g)) tiles.add(`${m[1]},${m[2]}`);
-    for (const t of handlerTexts(p.dir)) allTexts.add(t);
   }
   const server = await startServer(work);
   const browser = await launchBrowser(modules, { width: W, height: H });
-  const ran = new Set();
-  const failed = new Set();
+  const scripts = scriptRecorder();
   let failures = 0;
   try {
     for (const p of pages) {
@@ -336,9 +319,7 @@ async function main() {
         failures++;
         console.log(`not ok - ${label}: ${e.message}`);
       } finally {
-        const record = await page.evaluate(() => vantoViewer.scriptRecord());
-        record.ran.forEach((t) => ran.add(t));
-        record.failed.forEach((t) => failed.add(t));
+        await scripts.add(page);
         await page.close();
       }
     }
@@ -353,19 +334,9 @@ async function main() {
     await browser.close();
     server.close();
   }
-  const covered = [...allTexts].filter((t) => ran.has(t)).length;
-  console.log(`# handler and action texts in the files: ${allTexts.size}; ran: ${covered}; threw: ${failed.size}`);
+  // Whether every text of the files ran somewhere in the suite is counted by browser_handlers.
+  writeHandlerLog('controls', handlerTexts(work), scripts.record);
   console.log(`# ${pages.length} pages in ${((Date.now() - started) / 1000).toFixed(1)} s`);
-  for (const t of allTexts) {
-    if (ran.has(t)) continue;
-    const pending = PENDING.some((re) => re.test(t));
-    if (!pending) failures++;
-    console.log(`${pending ? '# pending' : 'not ok - never ran'}: ${t.slice(0, 160)}`);
-  }
-  if (failed.size) {
-    failures++;
-    for (const t of failed) console.log(`not ok - threw: ${t.slice(0, 160)}`);
-  }
   process.exit(failures ? 1 : 0);
 }
 

@@ -111,9 +111,13 @@ export const methods = {
   height() { return this.size().height; },
   location() { return this.node.location || null; },
 
-  // A tour gallery, a map and VR come with the controls elements; until then there is none.
-  gallery() { return null; },
-  map() { return null; },
+  // The tour's gallery list (tour.js), and the map when a panorama of it has a position.
+  gallery() { return this.galleryList || null; },
+  map() {
+    const panel = this.get('map');
+    return panel && panel.places && panel.places().length ? panel : null;
+  },
+  // VR comes with the controls elements; until then there is none.
   isVRModeEnabled() { return false; },
   enterVRMode() { return false; },
   exitVRMode() { return false; },
