@@ -67,8 +67,8 @@ for (let design = 0; design < 8; design++) {
 const tourPreset = path.join(work, 'src/tour.ini');
 fs.writeFileSync(tourPreset, ['[Toolbar]', 'TBDesign=2', '[Applet]', 'AddGallery=1', 'AddMap=1', 'MapType=3', 'MapZoom=15',
   `GmAPIKey=${Buffer.from('no-key-for-osm-tiles').toString('base64')}`, 'ShowWebGLWarning=0', ''].join('\r\n'));
-const tourPlaces = [[hall, 'Great Hall', '53.5510,9.9937'], [path.join(work, 'src/garden.ppm'), 'Garden', '53.5530,9.9990'],
-  [path.join(work, 'src/turn.ppm'), 'Courtyard', '53.5490,10.0010']];
+const tourPlaces = [[hall, 'Great Hall', '53.5510,9.9937,180'], [path.join(work, 'src/garden.ppm'), 'Garden', '53.5530,9.9990,0'],
+  [path.join(work, 'src/turn.ppm'), 'Courtyard', '53.5490,10.0010,0']];
 for (const [picture, title, location] of tourPlaces) {
   const preset = path.join(work, `src/tour-${title}.ini`);
   fs.writeFileSync(preset, `${fs.readFileSync(tourPreset, 'utf8')}ShortDescription64=${Buffer.from(title).toString('base64')}\r\n`);
