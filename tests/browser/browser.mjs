@@ -26,8 +26,12 @@ export function testArgs(script) {
     process.exit(2);
   }
   workDir = path.resolve(work);
+  // A log of an earlier run must not stand in for this one's.
+  fs.rmSync(handlerLogFile(path.basename(script, '.test.mjs')), { force: true });
   return { tool, work, modules };
 }
+
+const handlerLogFile = (name) => path.join(path.dirname(workDir), 'handler-log', `${name}.json`);
 
 // Every handler and action text of the viewer files in `dir` (and its sub-folders): the strings
 // that are function texts, wherever they stand in the files.
@@ -57,13 +61,13 @@ export function handlerTexts(dir) {
 // Writes what one browser test saw of the files' handler and action texts for the suite-wide
 // count (handlers.mjs): `texts` those of the files it exported, `record` (ran, failed) the union
 // of vantoViewer.scriptRecord() over its pages. The log lies beside the test's work folder, in
-// handler-log/NAME.json.
+// handler-log/NAME.json; NAME is the test script's (tour for tour.test.mjs), whose log testArgs
+// removes when the test starts.
 export function writeHandlerLog(name, texts, record) {
   if (!workDir) throw new Error('writeHandlerLog: testArgs() was not called');
-  const folder = path.join(path.dirname(workDir), 'handler-log');
-  fs.mkdirSync(folder, { recursive: true });
+  const file = handlerLogFile(name);
+  fs.mkdirSync(path.dirname(file), { recursive: true });
   const log = { texts: [...texts], ran: [...record.ran], failed: [...record.failed] };
-  const file = path.join(folder, `${name}.json`);
   fs.writeFileSync(`${file}.part`, JSON.stringify(log, null, 1));
   fs.renameSync(`${file}.part`, file);
 }
