@@ -17,6 +17,8 @@ export const CHROMIUM_ARGS = [
 export const W = 800;
 export const H = 600;
 
+let workDir = null;
+
 // The arguments every browser test takes, or the usage line and exit code 2.
 export function testArgs(script) {
   const [tool, work, modules] = process.argv.slice(2);
@@ -24,7 +26,64 @@ export function testArgs(script) {
     console.error(`usage: node ${script} TOOL WORKDIR NODE_MODULES`);
     process.exit(2);
   }
+  workDir = path.resolve(work);
+  // A log of an earlier run must not stand in for this one's.
+  fs.rmSync(handlerLogFile(path.basename(script, '.test.mjs')), { force: true });
   return { tool, work, modules };
+}
+
+const handlerLogFile = (name) => path.join(path.dirname(workDir), 'handler-log', `${name}.json`);
+
+// Every handler and action text of the viewer files in `dir` (and its sub-folders): the strings
+// that are function texts, wherever they stand in the files.
+export function handlerTexts(dir) {
+  const texts = new Set();
+  const visit = (value) => {
+    if (typeof value === 'string') {
+      if (/^\s*function\s*\(/.test(value)) texts.add(value);
+    } else if (value && typeof value === 'object') Object.values(value).forEach(visit);
+  };
+  for (const entry of fs.readdirSync(dir, { withFileTypes: true })) {
+    const file = path.join(dir, entry.name);
+    if (entry.isDirectory()) {
+      if (!entry.name.endsWith('_tiles')) handlerTexts(file).forEach((t) => texts.add(t));
+      continue;
+    }
+    if (!/\.(json|js|jsonp)$/.test(entry.name)) continue;
+    const text = fs.readFileSync(file, 'utf8');
+    if (!text.startsWith('VantoraViewerParams = ')) continue;
+    try {
+      visit(JSON.parse(text.slice('VantoraViewerParams = '.length)));
+    } catch (e) { /* a file the test broke on purpose */ }
+  }
+  return texts;
+}
+
+// Writes what one browser test saw of the files' handler and action texts for the suite-wide
+// count (handlers.mjs): `texts` those of the files it exported, `record` (ran, failed) the union
+// of vantoViewer.scriptRecord() over its pages. The log lies beside the test's work folder, in
+// handler-log/NAME.json; NAME is the test script's (tour for tour.test.mjs), whose log testArgs
+// removes when the test starts.
+export function writeHandlerLog(name, texts, record) {
+  if (!workDir) throw new Error('writeHandlerLog: testArgs() was not called');
+  const file = handlerLogFile(name);
+  fs.mkdirSync(path.dirname(file), { recursive: true });
+  const log = { texts: [...texts], ran: [...record.ran], failed: [...record.failed] };
+  fs.writeFileSync(`${file}.part`, JSON.stringify(log, null, 1));
+  fs.renameSync(`${file}.part`, file);
+}
+
+// Collects vantoViewer.scriptRecord() of pages into one record.
+export function scriptRecorder() {
+  const record = { ran: new Set(), failed: new Set() };
+  return {
+    record,
+    async add(page) {
+      const r = await page.evaluate(() => vantoViewer.scriptRecord()).catch(() => ({ ran: [], failed: [] }));
+      r.ran.forEach((t) => record.ran.add(t));
+      r.failed.forEach((t) => record.failed.add(t));
+    },
+  };
 }
 
 // Runs `body` in the page as a function of the viewer `v` and the argument `a`; its result.
@@ -50,8 +109,10 @@ export async function launchBrowser(modules, viewport = { width: 1000, height: 7
 }
 
 // Opens a page and waits for its viewer's `ready`; collects page errors and console errors.
-export async function openViewer(context, url, { expectFailure = false, language } = {}) {
+// `route(page)` may set up the page's network (playwright's page.route) before it loads.
+export async function openViewer(context, url, { expectFailure = false, language, route } = {}) {
   const page = await context.newPage();
+  if (route) await route(page);
   if (language) {
     await page.addInitScript((lang) => Object.defineProperty(navigator, 'language', { get: () => lang }), language);
   }

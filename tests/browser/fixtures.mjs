@@ -4,6 +4,7 @@
 import fs from 'node:fs';
 import path from 'node:path';
 import { execFileSync } from 'node:child_process';
+import zlib from 'node:zlib';
 
 // Writes a binary PPM picture of width x height whose red and green encode the column and row.
 export function writeGradient(file, width, height, blue = 96) {
@@ -43,14 +44,38 @@ export function freshWork(work) {
   return { src, picture };
 }
 
-// The handler and action texts (every string that is a function text) of the viewer files in `dir`.
-export function handlerTexts(dir) {
-  const texts = new Set();
-  const visit = (value) => {
-    if (typeof value === 'string') { if (/^\s*function\s*\(/.test(value)) texts.add(value); } else if (value && typeof value === 'object') Object.values(value).forEach(visit);
+const CRC_TABLE = Array.from({ length: 256 }, (_, n) => {
+  let c = n;
+  for (let k = 0; k < 8; k++) c = c & 1 ? 0xedb88320 ^ (c >>> 1) : c >>> 1;
+  return c >>> 0;
+});
+
+// An RGB PNG of width x height whose pixel (x, y) is colourAt(x, y) = [r, g, b].
+export function encodePng(width, height, colourAt) {
+  const crc = (buf) => {
+    let c = 0xffffffff;
+    for (const byte of buf) c = CRC_TABLE[(c ^ byte) & 0xff] ^ (c >>> 8);
+    return (c ^ 0xffffffff) >>> 0;
   };
-  for (const file of fs.readdirSync(dir).filter((f) => /\.json$/.test(f))) visit(readParams(path.join(dir, file)));
-  return texts;
+  const chunk = (type, data) => {
+    const out = Buffer.alloc(12 + data.length);
+    out.writeUInt32BE(data.length, 0);
+    out.write(type, 4, 'ascii');
+    data.copy(out, 8);
+    out.writeUInt32BE(crc(out.subarray(4, 8 + data.length)), 8 + data.length);
+    return out;
+  };
+  const header = Buffer.alloc(13);
+  header.writeUInt32BE(width, 0);
+  header.writeUInt32BE(height, 4);
+  header[8] = 8; // bits per sample
+  header[9] = 2; // RGB
+  const raw = Buffer.alloc(height * (1 + width * 3));
+  for (let y = 0; y < height; y++) {
+    for (let x = 0; x < width; x++) raw.set(colourAt(x, y), y * (1 + width * 3) + 1 + x * 3);
+  }
+  return Buffer.concat([Buffer.from([137, 80, 78, 71, 13, 10, 26, 10]), chunk('IHDR', header),
+    chunk('IDAT', zlib.deflateSync(raw)), chunk('IEND', Buffer.alloc(0))]);
 }
 
 // A short sine tone as 8-bit mono WAV.

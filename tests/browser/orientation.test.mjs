@@ -9,8 +9,8 @@ import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
-import { exportPage, freshWork, handlerTexts, readParams } from './fixtures.mjs';
-import { H, W, checkPage, launchBrowser, pixels, testArgs, viewerCall as call } from './browser.mjs';
+import { exportPage, freshWork, readParams } from './fixtures.mjs';
+import { H, W, checkPage, handlerTexts, launchBrowser, pixels, testArgs, viewerCall as call, writeHandlerLog } from './browser.mjs';
 import { startServer } from './server.mjs';
 
 const { tool, work, modules } = testArgs('orientation.test.mjs');
@@ -289,13 +289,6 @@ async function checkIntro(page, what, hfov) {
   await call(page, 'v.setFisheyeDistortion(1); v.setView(0, 90, 150); return v.settled();');
   const corners = await pixels(page, [[W / 2, H / 2], [20, 20], [W - 20, H - 20]]);
   assert.ok(corners.every((c) => c[0] + c[1] + c[2] > 60), `${what}: little planet has black places: ${JSON.stringify(corners)}`);
-}
-
-// The handler log of this test, read by the suite-wide count.
-function writeHandlerLog(name, texts, record) {
-  const dir = path.join(work, '..', 'handler-log');
-  fs.mkdirSync(dir, { recursive: true });
-  fs.writeFileSync(path.join(dir, `${name}.json`), JSON.stringify({ texts: [...texts], ran: [...record.ran], failed: [...record.failed] }, null, 1));
 }
 
 async function main() {

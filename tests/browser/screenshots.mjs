@@ -1,6 +1,7 @@
 // Takes the README's screenshots (run by hand, not a test): the exported sample from disk, a flat
 // picture, a tour page with its title, hotspots and an open message box, a compass and a radar,
-// and a contact sheet of the eight toolbar designs.
+// a contact sheet of the eight toolbar designs, and a tour of three panoramas with its thumbnail
+// strip and its map (the map's tiles drawn by this script: the machine has no network).
 //
 //   node tests/browser/screenshots.mjs BUILD_DIR OUTPUT_DIR
 import fs from 'node:fs';
@@ -8,7 +9,7 @@ import os from 'node:os';
 import path from 'node:path';
 import { pathToFileURL } from 'node:url';
 import { execFileSync } from 'node:child_process';
-import { buildFixtures, exportPage } from './fixtures.mjs';
+import { buildFixtures, encodePng, exportPage } from './fixtures.mjs';
 import { launchBrowser, openViewer } from './browser.mjs';
 
 const [build, out] = process.argv.slice(2).map((p) => p && path.resolve(p));
@@ -30,8 +31,8 @@ exportPage(tool, [hall, path.join(work, 'src/garden.ppm'), '--hotspots', path.jo
   '--title', 'Great Hall', '-o', path.join(work, 'shots/hall.html')]);
 const browser = await launchBrowser(path.join(build, 'viewer/npm/node_modules'), { width: 816, height: 616 });
 
-async function shoot(page, name, prepare) {
-  const { page: p } = await openViewer(browser.context, pathToFileURL(path.join(work, page)).href);
+async function shoot(page, name, prepare, route) {
+  const { page: p } = await openViewer(browser.context, pathToFileURL(path.join(work, page)).href, { route });
   if (prepare) await prepare(p);
   await p.evaluate(() => vantoViewer.get('vantoViewerID').settled());
   const clip = await p.locator('#vantoViewerID').boundingBox();
@@ -72,6 +73,31 @@ for (let design = 0; design < 8; design++) {
   strips.push(`<div>Typ ${design + 1}</div><img src="data:image/png;base64,${png.toString('base64')}">`);
   await p.close();
 }
+// A tour of three panoramas with the strip and the map (OpenStreetMap, here a street grid of our own).
+const tourPreset = path.join(work, 'src/tour.ini');
+fs.writeFileSync(tourPreset, ['[Toolbar]', 'TBDesign=2', '[Applet]', 'AddGallery=1', 'AddMap=1', 'MapType=3', 'MapZoom=15',
+  `GmAPIKey=${Buffer.from('no-key-for-osm-tiles').toString('base64')}`, 'ShowWebGLWarning=0', ''].join('\r\n'));
+const tourPlaces = [[hall, 'Great Hall', '53.5510,9.9937,180'], [path.join(work, 'src/garden.ppm'), 'Garden', '53.5530,9.9990,0'],
+  [path.join(work, 'src/turn.ppm'), 'Courtyard', '53.5490,10.0010,0']];
+for (const [picture, title, location] of tourPlaces) {
+  const preset = path.join(work, `src/tour-${title}.ini`);
+  fs.writeFileSync(preset, `${fs.readFileSync(tourPreset, 'utf8')}ShortDescription64=${Buffer.from(title).toString('base64')}\r\n`);
+  exportPage(tool, [picture, '--settings', preset, '--title', title, '--location', location,
+    '-o', path.join(work, `walk/${title.replace(' ', '').toLowerCase()}.html`)]);
+}
+const street = encodePng(256, 256, (x, y) => (x % 64 < 5 || y % 64 < 5 ? [255, 255, 255]
+  : (x >> 6) % 3 === 1 && (y >> 6) % 2 === 0 ? [200, 225, 190] : [236, 232, 224]));
+const streetTiles = async (p) => p.route('https://tile.openstreetmap.org/**', (r) => r.fulfill({ contentType: 'image/png', body: street }));
+const openPanel = async (p, button, id) => {
+  await p.locator(`.vanto-button[data-id="${button}"]`).click();
+  await p.waitForFunction((i) => { const d = vantoViewer.get('vantoViewerID').get(i); return d.visible && !d.collapsing && d.height > 0; }, id);
+};
+await shoot('walk/greathall.html', 'viewer-tour-strip.png', (p) => openPanel(p, 'gallerybutton', 'thumbnailGallery'), streetTiles);
+await shoot('walk/greathall.html', 'viewer-tour-map.png', async (p) => {
+  await openPanel(p, 'mapbutton', 'map');
+  await p.waitForFunction(() => document.querySelectorAll('.leaflet-tile-loaded').length > 0);
+}, streetTiles);
+
 const sheet = await browser.context.newPage();
 await sheet.setContent(`<body style="margin:0;background:#fff;font:14px Arial;width:800px">
 <style>div{padding:6px 8px}img{display:block}</style>${strips.join('')}</body>`);

@@ -8,7 +8,7 @@ import fs from 'node:fs';
 import { pathToFileURL } from 'node:url';
 import { buildFixtures, readParams } from './fixtures.mjs';
 import { startServer } from './server.mjs';
-import { H, W, launchBrowser, openViewer, pixels, testArgs, viewerCall, waitReady } from './browser.mjs';
+import { H, W, handlerTexts, launchBrowser, openViewer, pixels, scriptRecorder, testArgs, viewerCall, waitReady, writeHandlerLog } from './browser.mjs';
 
 const { tool, work, modules } = testArgs('viewer.test.mjs');
 const CENTRE = [W / 2, H / 2];
@@ -361,6 +361,7 @@ async function main() {
   console.log(`fixtures exported in ${((Date.now() - started) / 1000).toFixed(1)} s`);
   const servers = { http: await startServer(work), nosniff: await startServer(work, { nosniff: true }) };
   const browser = await launchBrowser(modules);
+  const scripts = scriptRecorder();
   let failures = 0;
   try {
     const probe = await browser.context.newPage();
@@ -396,7 +397,10 @@ async function main() {
           failures++;
           console.log(`FAIL ${label}: ${e.message}`);
         } finally {
-          if (opened) await opened.page.close();
+          if (opened) {
+            if (!c.failure) await scripts.add(opened.page);
+            await opened.page.close();
+          }
         }
       }
     }
@@ -405,6 +409,7 @@ async function main() {
     servers.http.close();
     servers.nosniff.close();
   }
+  writeHandlerLog('viewer', handlerTexts(work), scripts.record);
   console.log(`${failures ? 'FAILED' : 'passed'} in ${((Date.now() - started) / 1000).toFixed(1)} s`);
   process.exit(failures ? 1 : 0);
 }

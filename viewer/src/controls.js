@@ -2,7 +2,8 @@
 // that stand on their own (the root "button" array). Buttons paint their faces with the skin
 // painter, take their box's look from CSS texts, and run their "onclick" or, without one, the
 // built-in function of their "type".
-import { Element, placeNode } from './elements.js';
+import { Element, placeNode, cssLength } from './elements.js';
+import { panelLift } from './panel.js';
 import { paintSkin } from './skin.js';
 import { maybeText } from './texts.js';
 import { modernCss } from './css.js';
@@ -187,8 +188,10 @@ export class Toolbar extends Element {
   }
 
   updateStyles() {
+    // A panel open below the toolbar (thumbnail strip or map) lifts it by its height.
+    const lift = panelLift(this.viewer);
     applyStyle(this.node, this.style || '', (node) => {
-      placeNode(node, this.align, this.xoff, this.yoff);
+      placeNode(node, this.align, this.xoff, lift ? `calc(${cssLength(this.yoff)} + ${lift}px)` : this.yoff);
       node.style.width = this.width || '500px';
       node.style.height = this.height || '48px';
     });

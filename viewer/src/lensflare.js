@@ -23,6 +23,10 @@ export class LensFlares {
     });
   }
 
+  destroy() {
+    for (const f of this.flares) for (const node of [f.glow, ...f.ghosts]) node.remove();
+  }
+
   place(screenPoint, width, height) {
     for (const f of this.flares) {
       const p = screenPoint(Number(f.pan) || 0, Number(f.tilt) || 0);

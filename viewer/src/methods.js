@@ -112,9 +112,12 @@ export const methods = {
   height() { return this.size().height; },
   location() { return this.node.location || null; },
 
-  // A tour gallery and a map come with the controls elements; until then there is none.
-  gallery() { return null; },
-  map() { return null; },
+  // The tour's gallery list (tour.js), and the map when a panorama of it has a position.
+  gallery() { return this.galleryList || null; },
+  map() {
+    const panel = this.get('map');
+    return panel && panel.places && panel.places().length ? panel : null;
+  },
 
   // The gyroscope: reported available when the device sends orientation events; enabled, it
   // turns the view with the device (the direction its back faces), from the view it had.

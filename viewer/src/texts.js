@@ -18,6 +18,8 @@ const TEXTS = {
     galleryBtnPrev: 'Previous panorama', galleryBtnNext: 'Next panorama', navLeftButton: 'Previous panorama',
     navRightButton: 'Next panorama', leftStereoButton: 'Leave the VR view', rightStereoButton: 'Leave the VR view',
     button: 'Button', compass: 'Compass', radar: 'Radar', turnNorth: 'turn the view to north',
+    mapOffline: 'The map cannot be shown: there is no connection to the map server (%s).',
+    mapRefused: 'The map cannot be shown: Google Maps refused the key of this page.',
   },
   de: {
     missing: 'Das Panorama konnte nicht geladen werden: Die Datei „%s“ fehlt oder ist nicht lesbar.',
@@ -36,6 +38,8 @@ const TEXTS = {
     galleryBtnPrev: 'Vorheriges Panorama', galleryBtnNext: 'Nächstes Panorama', navLeftButton: 'Vorheriges Panorama',
     navRightButton: 'Nächstes Panorama', leftStereoButton: 'VR-Ansicht verlassen', rightStereoButton: 'VR-Ansicht verlassen',
     button: 'Schaltfläche', compass: 'Kompass', radar: 'Radar', turnNorth: 'Ansicht nach Norden drehen',
+    mapOffline: 'Die Karte kann nicht angezeigt werden: Es besteht keine Verbindung zum Kartenserver (%s).',
+    mapRefused: 'Die Karte kann nicht angezeigt werden: Google Maps hat den Schlüssel dieser Seite abgelehnt.',
   },
 };
 

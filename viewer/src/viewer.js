@@ -15,6 +15,7 @@ import { easing } from './easing.js';
 import { TextBox, createLogo } from './elements.js';
 import { createControls } from './controls.js';
 import { createContextMenu } from './contextmenu.js';
+import { createTour, changeScene } from './tour.js';
 import { Hotspot } from './hotspots.js';
 import { embeddedCorners } from './embedded.js';
 import { Sound } from './audio.js';
@@ -44,7 +45,7 @@ export class Viewer {
     this.locked = false;
     this.playing = false;
     this.elements = new Map();
-    // Called after every drawn frame (instruments that follow the view).
+    // Called after every drawn frame (what follows the view: compass, radar, the map's cone).
     this.frameListeners = [];
     this.vrMode = null;
     this.settleWaiters = [];
@@ -104,7 +105,15 @@ export class Viewer {
 
   // Takes the members of the parameter file and of its includes.
   configure(roots) {
-    const main = roots[0];
+    this.configureScene(roots[0]);
+    this.mergeRoots(roots);
+    this.galleryBase = this.baseUrl;
+    this.controls = roots.slice(1);
+  }
+
+  // The panorama's part of the parameter file: picture, view, limits, input and data objects.
+  // Runs again for every panorama of a tour shown in the page.
+  configureScene(main) {
     const node = main.node || {};
     this.params = main;
     this.node = node;
@@ -116,14 +125,19 @@ export class Viewer {
     this.control = main.control || {};
     this.autoplay = { status: 'off', pan: 0, tilt: 0, zoom: 0, restart: 0, ...(node.autoplay || {}) };
     this.hotspotsVisible = !node.hotspots || node.hotspots.visible !== false;
-    this.pyramid = new Pyramid(node.image, document.baseURI);
+    this.pyramid = new Pyramid(node.image, this.baseUrl);
     this.pyramid.onload = () => this.requestFrame();
     this.limits = sphericalLimits(node.camera, node.image);
     const view = node.view || {};
     this.startView = { pan: Number(view.pan) || 0, tilt: Number(view.tilt) || 0, hfov: Number(view.hfov) || 90 };
     this.view = { ...this.startView };
     this.flatView = null;
+    for (const id of ['globalData', 'localData']) this.elements.delete(id);
     for (const data of [main.data, node.data]) if (data && data.id) this.elements.set(data.id, data);
+  }
+
+  // Events, actions, captions and the gallery of all files; later files add to earlier ones.
+  mergeRoots(roots) {
     for (const root of roots) {
       if (root.events) Object.assign(this.handlers, root.events);
       for (const action of root.actions || []) if (action && action.id) this.actions.set(action.id, action.func);
@@ -134,7 +148,6 @@ export class Viewer {
       }
       if (root.gallery) this.galleryData = root.gallery;
     }
-    this.controls = roots.slice(1);
   }
 
   createRenderer() {
@@ -157,9 +170,27 @@ export class Viewer {
   }
 
   createElements() {
+    this.createSceneElements();
+    createControls(this);
+    createOrientation(this);
+    createContextMenu(this);
+    prepareVR(this);
+    watchGamepads(this);
+    closeOnEscape(this);
+    createTour(this);
+  }
+
+  // What belongs to one panorama: title, logo, hotspots, lens flares and sound. The sound of the
+  // whole tour ("gAudio") goes on playing when the next panorama names the same one.
+  createSceneElements() {
     const node = this.node;
-    for (const box of node.textbox || []) this.addElement(new TextBox(this, box));
-    if (this.params.logo && this.params.logo.src) this.overlay.appendChild(createLogo(this, this.params.logo));
+    this.sceneNodes = [];
+    for (const box of node.textbox || []) this.sceneNodes.push(this.addElement(new TextBox(this, box)));
+    if (this.params.logo && this.params.logo.src) {
+      const logo = createLogo(this, this.params.logo);
+      this.overlay.appendChild(logo);
+      this.sceneNodes.push({ destroy: () => logo.remove() });
+    }
     this.hotspotList = [];
     for (const members of node.hotspot || []) {
       if (!members || !members.bitmap) continue;
@@ -170,22 +201,28 @@ export class Viewer {
         hotspot.setHover(false);
       }
       this.hotspotList.push(hotspot);
-      this.addElement(hotspot);
+      this.sceneNodes.push(this.addElement(hotspot));
     }
     this.lensFlares = node.lensflare && node.lensflare.length && !this.flat
       ? new LensFlares(this.overlay, node.lensflare) : null;
-    this.sound = null;
+    if (this.lensFlares) this.sceneNodes.push(this.lensFlares);
     const audio = this.params.audio || node.audio;
-    if (audio && audio.src) {
-      this.sound = new Sound(this, audio);
-      this.elements.set(audio.id || 'gAudio', this.sound);
+    const id = audio && audio.src ? audio.id || 'gAudio' : null;
+    const kept = this.sound && id === 'gAudio' && this.sound.id === 'gAudio' && this.sound.src === audio.src;
+    if (this.sound && !kept) {
+      this.sound.destroy();
+      this.elements.delete(this.sound.id || 'gAudio');
+      this.sound = null;
     }
-    createControls(this);
-    createOrientation(this);
-    createContextMenu(this);
-    prepareVR(this);
-    watchGamepads(this);
-    closeOnEscape(this);
+    if (id && !kept) {
+      this.sound = new Sound(this, audio);
+      this.elements.set(id, this.sound);
+    }
+  }
+
+  // Shows another panorama of the tour in this page (tour.js).
+  changeScene(url) {
+    return changeScene(this, url);
   }
 
   addElement(element) {
