@@ -21,11 +21,10 @@ QString formattedWithoutArguments(const QString &text)
 
 } // namespace
 
-EventFlags controlsFlags(settings::ViewerSettings &settings, bool flatMode, bool vrAvailable)
+EventFlags controlsFlags(const settings::ViewerSettings &settings, bool flatMode, bool vrAvailable)
 {
-    settings.TBDesign = clampedDesign(settings.TBDesign);
     EventFlags flags;
-    flags.design = settings.TBDesign;
+    flags.design = clampedDesign(settings.TBDesign);
     flags.gyroSupport = settings.AddGyro && !flatMode;
     flags.gyroOnAtStart = settings.GyroEnabled && !flatMode;
     flags.littlePlanetIntro = settings.LittlePlanetIntro;

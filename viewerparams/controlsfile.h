@@ -18,16 +18,15 @@ namespace vantora::params {
 struct ControlsInput
 {
     HostContext *host = nullptr; // the writer exports the map's marker pictures through it
-    // Written to as well: the toolbar design is clamped and stored back, so that every later
-    // reader of the settings sees the design that was actually exported.
+    // Read only: the parameter file writer has clamped the design and stored it back already.
     settings::ViewerSettings *settings = nullptr;
     plugin::View view;
     bool flatMode = false;
     bool vrAvailable = false; // spherical and a full sphere
 };
 
-// The flags that select handlers and gates. Clamps TBDesign and stores it back into `settings`.
-EventFlags controlsFlags(settings::ViewerSettings &settings, bool flatMode, bool vrAvailable);
+// The flags that select handlers and gates, for the design clamped into 0..7.
+EventFlags controlsFlags(const settings::ViewerSettings &settings, bool flatMode, bool vrAvailable);
 
 // The controls root. `actions` comes in empty and leaves as stored under "actions".
 QJsonObject buildControls(const ControlsInput &input, QJsonArray &actions);

@@ -297,6 +297,10 @@ ParamsDocument buildViewerParams(const ParamsInput &input, const QString &output
 
     root.insert(QStringLiteral("node"), node);
 
+    // The design number is brought into 0..7 and stored back here, once: the parameter file above
+    // saw the setting as it was (an out-of-range design gets no message box style), the controls
+    // file below and every later export see the clamped one.
+    input.settings->TBDesign = clampedDesign(input.settings->TBDesign);
     ControlsInput controls;
     controls.host = &host;
     controls.settings = input.settings;

@@ -215,6 +215,8 @@ private slots:
             global.size() > 1 ? test::compact(global) : test::compact(QJsonValue::Undefined));
         VANTORA_COMPARE_TEXT(test::compact(root["node"]["data"]),
             local.size() > 1 ? test::compact(local) : test::compact(QJsonValue::Undefined));
+        // The parameter file saw the design as it was; the setting leaves the export clamped.
+        QCOMPARE(run.settings.TBDesign, qBound(0, entry.design, 7));
     }
 
     void tileWriter()

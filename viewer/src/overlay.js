@@ -2,7 +2,7 @@
 // the viewer runs without WebGL.
 
 const CSS = `
-.vanto-root{position:absolute;left:0;top:0;width:100%;height:100%;overflow:hidden;background:#000;
+.vanto-root{position:absolute;left:0;top:0;width:100%;height:100%;overflow:hidden;overflow:clip;background:#000;
  touch-action:none;user-select:none;-webkit-user-select:none;outline:none;font-family:Arial,Helvetica,sans-serif;text-align:left}
 .vanto-root:focus-visible{box-shadow:inset 0 0 0 3px #4da3ff}
 .vanto-canvas{position:absolute;left:0;top:0;width:100%;height:100%;display:block}

@@ -74,6 +74,9 @@ export class Viewer {
     root.className = 'vanto-root';
     root.tabIndex = 0;
     root.setAttribute('role', 'application');
+    // A focused or clicked button half outside the area (a toolbar sliding in) would scroll the
+    // clipped area and shift everything in it; the area never scrolls.
+    root.addEventListener('scroll', () => { root.scrollTop = 0; root.scrollLeft = 0; });
     container.appendChild(root);
     this.root = root;
     this.baseUrl = new URL(this.paramsFile, document.baseURI).href;
