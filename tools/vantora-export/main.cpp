@@ -251,9 +251,8 @@ int main(int argc, char *argv[])
                 writtenPages.append(QDir::toNativeSeparators(outcome.pagePath));
             removeCreatedFolders(plan);
             QTextStream(stderr) << "vantora-export: interrupted"
-                                << (writtenPages.isEmpty()
-                                           ? QString()
-                                           : QStringLiteral("; written before it: ")
+                                << (writtenPages.isEmpty() ? QString()
+                                                           : QStringLiteral("; written before it: ")
                                                + writtenPages.join(QStringLiteral(", ")))
                                 << '\n';
             return interruptedStatus();

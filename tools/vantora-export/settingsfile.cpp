@@ -2,8 +2,8 @@
 
 #include "settings/inifile.h"
 #include "settings/presetfile.h"
-#include "settings/settingstable.h"
 #include "settings/settingsblock.h"
+#include "settings/settingstable.h"
 #include "viewerparams/mapelement.h"
 
 #include <QDir>
